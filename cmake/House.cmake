@@ -1,0 +1,24 @@
+# How every part of the house is compiled, and how a room becomes a library and gets its tests.
+
+add_library(zifferon_warnings INTERFACE)
+target_compile_options(
+  zifferon_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+
+# zifferon_room(core zifferon_platform): the library zifferon_core of all sources in the current folder,
+# which may include the rooms named after it, and no others.
+function(zifferon_room name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  add_library(zifferon_${name} STATIC ${sources})
+  target_include_directories(zifferon_${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(zifferon_${name} PUBLIC ${ARGN} PRIVATE zifferon_warnings)
+endfunction()
+
+# zifferon_room_tests(core): the program core_tests of tests/core/*.cpp, and one CTest test for each of its
+# cases.
+function(zifferon_room_tests name)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${name}/*.cpp)
+  add_executable(${name}_tests ${sources})
+  target_link_libraries(${name}_tests PRIVATE zifferon_${name} zifferon_warnings GTest::gtest_main)
+  target_compile_definitions(${name}_tests PRIVATE ZIFFERON_TESTS_DIR="${PROJECT_SOURCE_DIR}/tests")
+  gtest_discover_tests(${name}_tests TEST_PREFIX ${name}/ DISCOVERY_MODE PRE_TEST)
+endfunction()

@@ -1,0 +1,193 @@
+// The chain: no precedence, each operator applies to the running value in `zwischen` and the number just
+// typed.
+
+#include "core/key_press.h"
+#include "core/number_format.h"
+#include "core/tape.h"
+
+namespace zifferon {
+
+void KeyPress::parseOperands() {
+    s.accumulator = parseDecimal(s.zwischen.text(), s.separators());
+    if (!s.eingabe.empty()) s.operand = parseDecimal(s.eingabe.text(), s.separators());
+}
+
+void KeyPress::operandStage() {
+    if (s.txtop.is(u"%") && (isV() || isW())) return eat();
+    if (chainRuns()) return chainStage();
+    parseOperands();
+    if (!s.eingabe.empty() && isEnter() && s.chainTotalled) closeCalculation();
+    if (isDigit()) return;
+    if (isV()) return negateEntry();
+    if (!s.txtop.is(u"=") && !s.txtop.is(u"%") && isPercent()) return percentOfOne();
+    if (s.txtop.is(u"=")) return firstOperand();
+    if (s.eingabe.empty()) return eat(), firstOperand();
+    if (isW()) return rootOfEntry();
+    firstOperand();
+}
+
+void KeyPress::firstOperand() {
+    if (s.eingabe.empty() && (isOperator() || isEnter())) return rubOut();
+    if (isSeparator()) return;
+    if (isOperator()) {
+        const Text number = s.eingabe.text();
+        s.zwischen.setText(format(number, s.numberFormat, s.separators()));
+        s.eingabe.setText(u"");
+        s.pendingOpCode = key;
+        s.chainActive = 1;
+        // A total stands on the tape already.
+        if (!s.chainTotalled) tape::addFirstNumber(s, number);
+        s.txtop.setText(tape::marksOf(key).sign);
+    }
+    finishKey();
+}
+
+void KeyPress::chainStage() {
+    if (isDigit()) return;
+    parseOperands();
+    if (s.eingabe.empty() && isOperator()) return rubOut();
+    if (!s.txtop.is(u"=") && !s.txtop.is(u"%") && isPercent()) return percentOfRunningValue();
+    if (isV()) return negateEntry();
+    if (s.txtop.is(u"=")) return firstOperand();
+    if (s.eingabe.empty()) return eat(), step();
+    if (isW()) return rootOfEntry();
+    step();
+}
+
+void KeyPress::step() {
+    if (isSeparator()) return;
+    if (isOperator() && operatorPends()) return stepByOperator();
+    if (isEnter() && operatorPends()) return stepByEnter();
+    if (isBackspace()) return;
+    eat();
+}
+
+namespace {
+
+char16_t operatorOf(const CalculatorState& s) {
+    for (const char16_t candidate : {u'*', u'+', u'-'}) {
+        if (s.pendingOpCode.equals(candidate, s.separators())) return candidate;
+    }
+    return u'/';
+}
+
+Decimal apply(char16_t operation, const Decimal& left, const Decimal& right) {
+    switch (operation) {
+        case u'+':
+            return left + right;
+        case u'-':
+            return left - right;
+        case u'*':
+            return left * right;
+        default:
+            return left / right;
+    }
+}
+
+}  // namespace
+
+void KeyPress::computePending() {
+    const Separators separators = s.separators();
+    s.operand = apply(operatorOf(s), s.accumulator.toDecimal(separators), s.operand.toDecimal(separators));
+    s.zwischen.setText(format(s.operand, s.numberFormat, separators));
+}
+
+// The print copy gets its line before the operation, the visible tape after it: when the operation fails,
+// only the print copy shows the number.
+void KeyPress::stepByOperator() {
+    const tape::OperatorMarks& marks = tape::marksOf(operatorOf(s));
+    const Text number = format(s.eingabe.text(), s.numberFormat, s.separators());
+    tape::addLine(s.superdruck, {tape::pad(number.size()), number, marks.onPrint});
+    computePending();
+    s.pendingOpCode = key;
+    s.eingabe.setText(u"");
+    tape::addLine(s.anzeige, {number, marks.onTape});
+    s.txtop.setText(tape::marksOf(key).sign);
+    eat();
+}
+
+void KeyPress::stepByEnter() {
+    const tape::OperatorMarks& marks = tape::marksOf(operatorOf(s));
+    const std::size_t width = format(s.eingabe.text(), s.numberFormat, s.separators()).size();
+    const Text number = format(s.eingabe.text(), s.tapeFormat, s.separators());
+    computePending();
+    s.eingabe.maxLength = 50;
+    setEntry(format(s.operand, s.numberFormat, s.separators()));
+    s.chainActive = 0;
+    tape::addLine(s.anzeige, {number, marks.onTape});
+    tape::addLine(s.superdruck, {tape::pad(width), number, marks.onPrint});
+    standTotal();
+    eat();
+}
+
+void KeyPress::standTotal() {
+    tape::addTotal(s);
+    s.chainTotalled = true;
+    s.eingabe.locked = true;
+    s.txtop.setText(u"=");
+    s.pendingOpCode = u"61";
+}
+
+// The number that stands in `zwischen` is the total; nothing is added to it.
+void KeyPress::totalDisplayedValue() {
+    s.accumulator = 0;
+    s.operand = s.zwischen.text();
+    s.zwischen.setText(format(s.operand, s.numberFormat, s.separators()));
+    s.eingabe.maxLength = 50;
+    setEntry(format(s.operand, s.numberFormat, s.separators()));
+    s.chainActive = 0;
+    standTotal();
+}
+
+void KeyPress::closeCalculation() {
+    tape::addClose(s);
+    s.eingabe.setText(u"");
+    s.chainTotalled = false;
+    s.zwischen.setText(u"0");
+    s.eingabe.locked = false;
+    s.tapeClearArmed = true;
+    s.txtop.setText(u"");
+    s.pendingOpCode = u"";
+}
+
+void KeyPress::negateEntry() {
+    const Decimal number = parseDecimal(s.eingabe.text(), s.separators());
+    const Decimal negated = number - number * Decimal(2);
+    s.operand = negated;
+    setEntry(generalText(negated, s.separators()));
+    eat();
+}
+
+void KeyPress::finishKey() {
+    s.secondValuePrompt = false;
+    s.eingabe.locked = false;
+    if (isC() || isEscape()) {
+        rubOut();
+        s.zwischen.setText(u"0");
+        s.eingabe.setText(u"");
+        s.pendingOpCode = 0;
+        s.chainActive = 0;
+        s.operand = 0;
+        s.accumulator = 0;
+        return;
+    }
+    if (!isBackspace()) eat();
+}
+
+// Every failure of the arithmetic ends here. The flags of the percent and difference modes stay as they were.
+void KeyPress::enterErrorState() {
+    if (isW()) s.eingabe.locked = false;
+    eat();
+    s.zwischen.alignment = Alignment::centre;
+    s.zwischen.setText(u"Error");
+    s.eingabe.setText(u"");
+    s.txtop.setText(u"");
+    s.pendingOpCode = 0;
+    s.chainActive = 0;
+    s.operand = 0;
+    s.accumulator = 0;
+    s.chainTotalled = false;
+    tape::addCancel(s);
+}
+
+}  // namespace zifferon

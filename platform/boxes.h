@@ -1,0 +1,30 @@
+// Modal message boxes. Their text is plain text, whatever a file name in it looks like.
+#pragma once
+
+#include "platform/text.h"
+
+namespace zifferon {
+
+enum class BoxIcon { none, information, question, warning, critical };
+enum class BoxButtons { ok, yesNo, yesNoCancel };
+enum class BoxAnswer { ok = 1, cancel = 2, yes = 6, no = 7 };
+
+struct Box {
+    BoxIcon icon = BoxIcon::none;
+    BoxButtons buttons = BoxButtons::ok;
+    Text title;
+    Text text;
+    bool english = false;      // language of the buttons
+    bool noIsDefault = false;  // the default button is No instead of the first
+};
+
+class Boxes {
+  public:
+    virtual ~Boxes() = default;
+
+    // Shows the box and waits for the answer. Closed otherwise it answers ok, cancel or no, in this order of
+    // what its buttons allow.
+    virtual BoxAnswer show(const Box& box) = 0;
+};
+
+}  // namespace zifferon

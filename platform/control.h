@@ -1,0 +1,93 @@
+// The controls of a window as plain values: what they show, where they stand, and their handlers. A view
+// follows them; it holds no state and no rule of its own.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <utility>
+
+#include "platform/text.h"
+
+namespace zifferon {
+
+struct Colour {
+    std::uint8_t red = 0, green = 0, blue = 0;
+    bool operator==(const Colour&) const = default;
+};
+
+// In twips, 1440 to the inch, from the corner of the window's client area.
+struct Place {
+    int left = 0, top = 0, width = 0, height = 0;
+    bool operator==(const Place&) const = default;
+};
+
+struct Font {
+    Text family = u"Arial";
+    double points = 8.25;
+    bool bold = false;
+    bool operator==(const Font&) const = default;
+};
+
+enum class Alignment { left, right, centre };
+
+enum class ControlKind { textField, label, button, checkBox, frame, picture };
+
+// A control is told by its address: the window, the view and the handlers refer to it for its whole life.
+class Control {
+  public:
+    explicit Control(ControlKind controlKind) : kind(controlKind) {}
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    const ControlKind kind;
+    Text name;
+    Place place;
+    Text caption;         // labels, buttons, check boxes and frames; "&" marks the access key
+    Text toolTip;         // empty: none
+    Text accessibleName;  // what a screen reader says where there is no caption
+    Text picture;         // pictures and picture buttons: name of the drawing; empty: none
+    bool visible = true;
+    bool enabled = true;
+    const Control* frame = nullptr;  // the frame that it lies in and is hidden with; null: the window
+    bool takesFocus = false;         // a click gives it the focus
+    Colour foreColour{0, 0, 0};
+    Colour backColour{192, 192, 192};
+    Font font;
+    Alignment alignment = Alignment::left;
+
+    std::function<void()> onClick, onDoubleClick, onMouseDown, onMouseUp, onMouseMove;
+    std::function<void()> onGotFocus, onLostFocus;
+    std::function<void(int& code)> onKeyDown;             // a handler may change the code, 0 stops the field
+    std::function<void(char16_t& character)> onKeyPress;  // likewise: 0 eats, 8 makes a Backspace of it
+    std::function<void(int code)> onKeyUp;
+
+    void click() { call(onClick); }
+
+    // Visible, and so is what it lies in.
+    bool shown() const { return visible && (frame == nullptr || frame->shown()); }
+
+  protected:
+    static void call(const std::function<void()>& handler) {
+        if (handler) handler();
+    }
+};
+
+class CheckBox : public Control {
+  public:
+    CheckBox() : Control(ControlKind::checkBox) {}
+    bool ticked() const { return ticked_; }
+
+    // A tick that really changes runs the click handler, whoever changes it.
+    void setTicked(bool ticked) {
+        if (std::exchange(ticked_, ticked) != ticked) click();
+    }
+
+    // Sets the tick without running the handler.
+    void placeTick(bool ticked) { ticked_ = ticked; }
+
+  private:
+    bool ticked_ = false;
+};
+
+}  // namespace zifferon

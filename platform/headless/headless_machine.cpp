@@ -1,0 +1,144 @@
+#include "platform/headless/headless_machine.h"
+
+namespace zifferon {
+
+namespace {
+
+const char* wordOf(BoxIcon icon) {
+    switch (icon) {
+        case BoxIcon::information:
+            return "information";
+        case BoxIcon::question:
+            return "question";
+        case BoxIcon::warning:
+            return "warning";
+        case BoxIcon::critical:
+            return "critical";
+        case BoxIcon::none:
+            break;
+    }
+    return "none";
+}
+
+const char* wordOf(BoxButtons buttons) {
+    switch (buttons) {
+        case BoxButtons::yesNo:
+            return "yes-no";
+        case BoxButtons::yesNoCancel:
+            return "yes-no-cancel";
+        case BoxButtons::ok:
+            break;
+    }
+    return "ok";
+}
+
+const char* wordOf(BoxAnswer answer) {
+    switch (answer) {
+        case BoxAnswer::yes:
+            return "yes";
+        case BoxAnswer::no:
+            return "no";
+        case BoxAnswer::cancel:
+            return "cancel";
+        case BoxAnswer::ok:
+            break;
+    }
+    return "ok";
+}
+
+BoxAnswer unasked(BoxButtons buttons) {
+    switch (buttons) {
+        case BoxButtons::yesNo:
+            return BoxAnswer::no;
+        case BoxButtons::yesNoCancel:
+            return BoxAnswer::no;
+        case BoxButtons::ok:
+            break;
+    }
+    return BoxAnswer::ok;
+}
+
+}  // namespace
+
+std::string quoted(TextView text) {
+    Text escaped = u"\"";
+    for (const char16_t unit : text) {
+        switch (unit) {
+            case u'"':
+                escaped += u"\\\"";
+                break;
+            case u'\\':
+                escaped += u"\\\\";
+                break;
+            case u'\r':
+                escaped += u"\\r";
+                break;
+            case u'\n':
+                escaped += u"\\n";
+                break;
+            case u'\t':
+                escaped += u"\\t";
+                break;
+            default:
+                escaped += unit;
+        }
+    }
+    escaped += u'"';
+    return toUtf8(escaped);
+}
+
+BoxAnswer HeadlessMachine::show(const Box& box) {
+    BoxAnswer answer = unasked(box.buttons);
+    if (!answers_.empty()) {
+        answer = answers_.front();
+        answers_.pop_front();
+    }
+    log_ << "box " << wordOf(box.icon) << ' ' << wordOf(box.buttons) << ' ' << quoted(box.title) << ' '
+         << quoted(box.text) << " -> " << wordOf(answer) << '\n';
+    return answer;
+}
+
+void HeadlessMachine::clear() {
+    clipboard_.clear();
+    log_ << "clipboard cleared\n";
+}
+
+void HeadlessMachine::setText(TextView text) {
+    clipboard_ = text;
+    log_ << "clipboard " << quoted(text) << '\n';
+}
+
+void HeadlessMachine::beep() { log_ << "beep\n"; }
+
+void HeadlessMachine::wait(std::int64_t milliseconds, const Window& window, KeyRoad& keys) {
+    const std::int64_t until = now_ + milliseconds;
+    followTimers(window);
+    while (Timer* const timer = nextDue(window, until)) {
+        Due& due = due_[timer];
+        now_ = due.at;
+        due.at += timer->interval();
+        keys.run(timer->onTick);
+        followTimers(window);
+    }
+    now_ = until;
+}
+
+// Time stands still between two waits, so a timer that was started since begins its interval now.
+void HeadlessMachine::followTimers(const Window& window) {
+    for (const Timer* timer : window.timers()) {
+        Due& due = due_[timer];
+        if (due.armings == timer->armings()) continue;
+        due = {timer->armings(), now_ + timer->interval()};
+    }
+}
+
+Timer* HeadlessMachine::nextDue(const Window& window, std::int64_t until) {
+    Timer* next = nullptr;
+    for (Timer* timer : window.timers()) {
+        if (timer->interval() == 0 || due_[timer].at > until) continue;
+        if (next == nullptr || due_[timer].at < due_[next].at) next = timer;
+    }
+    return next;
+}
+
+}  // namespace zifferon

@@ -1,0 +1,53 @@
+// The machine without a screen: queued answers for boxes, a clock that moves only when told, and a log of all
+// that would be seen and heard, one line for each event.
+#pragma once
+
+#include <deque>
+#include <ostream>
+#include <string>
+#include <unordered_map>
+
+#include "platform/key_road.h"
+#include "platform/machine.h"
+#include "platform/window.h"
+
+namespace zifferon {
+
+class HeadlessMachine : public Boxes, public Clipboard, public Sound {
+  public:
+    explicit HeadlessMachine(std::ostream& log) : log_(log) {}
+
+    // One of yes, no, ok, cancel; the next box without an answer of its own takes it.
+    void queueAnswer(BoxAnswer answer) { answers_.push_back(answer); }
+
+    const Text& clipboardText() const { return clipboard_; }
+    void emptyClipboardSilently() { clipboard_.clear(); }
+
+    // Lets virtual time pass; the timers of the window tick in order, each through the key road.
+    void wait(std::int64_t milliseconds, const Window& window, KeyRoad& keys);
+
+    BoxAnswer show(const Box& box) override;
+    void clear() override;
+    void setText(TextView text) override;
+    void beep() override;
+
+  private:
+    struct Due {
+        unsigned armings = 0;
+        std::int64_t at = 0;
+    };
+
+    void followTimers(const Window& window);
+    Timer* nextDue(const Window& window, std::int64_t until);
+
+    std::ostream& log_;
+    std::deque<BoxAnswer> answers_;
+    Text clipboard_;
+    std::int64_t now_ = 0;  // milliseconds
+    std::unordered_map<const Timer*, Due> due_;
+};
+
+// Text in double quotes, with the escapes \" \\ \r \n \t.
+std::string quoted(TextView text);
+
+}  // namespace zifferon

@@ -1,0 +1,106 @@
+#include "platform/qt/control_view.h"
+
+#include <QMouseEvent>
+#include <utility>
+
+#include "platform/qt/form_view.h"
+
+namespace zifferon {
+
+QRect pixels(const Place& place) {
+    const auto pixel = [](int twips) { return qRound(double(twips) / twipsPerPixel); };
+    const QPoint corner(pixel(place.left), pixel(place.top));
+    return {corner, QSize(pixel(place.left + place.width), pixel(place.top + place.height)) -
+                        QSize(corner.x(), corner.y())};
+}
+
+QColor colourOf(Colour colour) { return {colour.red, colour.green, colour.blue}; }
+
+Qt::Alignment qtAlignment(Alignment alignment) {
+    switch (alignment) {
+        case Alignment::left:
+            return Qt::AlignLeft | Qt::AlignVCenter;
+        case Alignment::right:
+            return Qt::AlignRight | Qt::AlignVCenter;
+        case Alignment::centre:
+            break;
+    }
+    return Qt::AlignCenter;
+}
+
+ControlView::ControlView(Control& control, QWidget& widget, QWidget& surface, FormView& form)
+    : control_(control), widget_(widget), form_(form) {
+    widget_.setObjectName(toQString(control.name));
+    widget_.setAutoFillBackground(true);
+    surface.setMouseTracking(true);
+    surface.installEventFilter(this);
+}
+
+void ControlView::refresh() {
+    if (differs(place_, control_.place)) widget_.setGeometry(pixels(control_.place));
+    if (differs(font_, control_.font)) {
+        // Sized in pixels like all places, so that no setting of the desktop makes the text outgrow them.
+        QFont font(toQString(control_.font.family));
+        font.setPixelSize(qRound(control_.font.points * 20 / twipsPerPixel));
+        font.setBold(control_.font.bold);
+        widget_.setFont(font);
+    }
+    const bool newForeColour = differs(foreColour_, control_.foreColour);
+    if (differs(backColour_, control_.backColour) || newForeColour) refreshColours();
+    if (differs(toolTip_, control_.toolTip)) widget_.setToolTip(toQString(control_.toolTip));
+    if (differs(accessibleName_, control_.accessibleName)) {
+        widget_.setAccessibleName(toQString(control_.accessibleName));
+    }
+    refreshContent();
+    if (differs(enabled_, control_.enabled)) widget_.setEnabled(control_.enabled);
+    if (differs(visible_, control_.shown())) widget_.setVisible(*visible_);
+}
+
+void ControlView::refreshColours() {
+    const QColor fore = colourOf(control_.foreColour);
+    const QColor back = colourOf(control_.backColour);
+    QPalette palette = widget_.palette();
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button, QPalette::HighlightedText}) {
+        palette.setColor(role, back);
+    }
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::Highlight}) {
+        palette.setColor(role, fore);
+    }
+    if (control_.kind == ControlKind::checkBox) palette.setColor(QPalette::Base, Qt::white);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, back.darker(150));
+    }
+    widget_.setPalette(palette);
+}
+
+bool ControlView::eventFilter(QObject* surface, QEvent* event) {
+    // Buttons and check boxes need the mouse for their own look, and tell of their clicks themselves, whether
+    // these come by mouse or by a screen reader. Nothing else does: an event ends here.
+    const bool button = control_.kind == ControlKind::button || control_.kind == ControlKind::checkBox;
+    const auto position = [event] { return static_cast<QMouseEvent*>(event)->position().toPoint(); };
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            clickPending_ = !button && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+            mousePressed(position());
+            form_.run(control_.onMouseDown);
+            return !button;
+        case QEvent::MouseMove:
+            if (static_cast<QMouseEvent*>(event)->buttons() & Qt::LeftButton) mouseDragged(position());
+            form_.run(control_.onMouseMove);
+            return !button;
+        case QEvent::MouseButtonRelease: {
+            const bool inside = static_cast<QWidget*>(surface)->rect().contains(position());
+            form_.run(control_.onMouseUp);
+            if (std::exchange(clickPending_, false) && inside) form_.run(control_.onClick);
+            return !button;
+        }
+        case QEvent::MouseButtonDblClick:
+            form_.run(control_.onDoubleClick);
+            return !button;
+        default:
+            return false;
+    }
+}
+
+}  // namespace zifferon

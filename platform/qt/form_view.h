@@ -1,0 +1,52 @@
+// The one view of every window: it makes a widget for each control, follows what the program does to them,
+// and hands on what the user does. It decides nothing itself.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "platform/key_road.h"
+#include "platform/qt/control_view.h"
+#include "platform/qt/key_events.h"
+#include "platform/qt/timer_views.h"
+#include "platform/window.h"
+
+namespace zifferon {
+
+class FormView : public QWidget {
+  public:
+    // Shows all controls that `window` has now; all three live as long as the view.
+    FormView(Window& window, KeyRoad& keys);
+
+    // Shows what has changed in the window since the last call; without a change it costs little.
+    void refresh();
+
+    // Runs a handler that is no keystroke, and shows what it did. An empty one does nothing.
+    void run(const std::function<void()>& handler);
+
+    // What a click on a button or check box does, by mouse or access key.
+    void press(Control& control);
+
+    Window& window() const { return window_; }
+
+  private:
+    bool event(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void refreshFrame();
+    void refreshFocus();
+
+    Window& window_;
+    KeyRoad& keys_;
+    std::vector<std::unique_ptr<ControlView>> views_;
+    TimerViews timers_;
+    KeyEvents keyEvents_;
+
+    // What the window shows.
+    Place place_;
+    std::optional<Text> caption_;
+    std::optional<Colour> backColour_;
+};
+
+}  // namespace zifferon

@@ -1,0 +1,211 @@
+#include "platform/qt/key_events.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QMouseEvent>
+#include <QWidget>
+#include <utility>
+
+#include "platform/qt/control_view.h"
+
+namespace zifferon {
+
+namespace {
+
+Qt::KeyboardModifiers commandModifiers(const QKeyEvent& event) {
+    return event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+}
+
+bool isPaste(const QKeyEvent& event) {
+    const bool shift = event.modifiers() & Qt::ShiftModifier;
+    if (event.key() == Qt::Key_Insert) return shift && !commandModifiers(event);
+    return event.key() == Qt::Key_Paste ||
+           (event.key() == Qt::Key_V && !shift && commandModifiers(event) == Qt::ControlModifier);
+}
+
+std::optional<Key> namedKey(int key) {
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F16) return Key{keyCode::f1 + key - Qt::Key_F1};
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return Key{keyCode::enter, 13};
+        case Qt::Key_Escape:
+            return Key{keyCode::escape, 27};
+        case Qt::Key_Backspace:
+            return Key{keyCode::back, 8};
+        case Qt::Key_Delete:
+            return Key{keyCode::del};
+        case Qt::Key_Insert:
+            return Key{keyCode::insert};
+        case Qt::Key_Left:
+            return Key{keyCode::left};
+        case Qt::Key_Up:
+            return Key{keyCode::up};
+        case Qt::Key_Right:
+            return Key{keyCode::right};
+        case Qt::Key_Down:
+            return Key{keyCode::down};
+        case Qt::Key_Home:
+            return Key{keyCode::home};
+        case Qt::Key_End:
+            return Key{keyCode::end};
+        case Qt::Key_PageUp:
+            return Key{keyCode::pageUp};
+        case Qt::Key_PageDown:
+            return Key{keyCode::pageDown};
+        default:
+            return std::nullopt;
+    }
+}
+
+std::optional<Key> keypadOperator(int key) {
+    switch (key) {
+        case Qt::Key_Asterisk:
+            return Key{keyCode::multiply, u'*'};
+        case Qt::Key_Plus:
+            return Key{keyCode::add, u'+'};
+        case Qt::Key_Minus:
+            return Key{keyCode::subtract, u'-'};
+        case Qt::Key_Slash:
+            return Key{keyCode::divide, u'/'};
+        case Qt::Key_Comma:
+            return Key{keyCode::decimal, u','};
+        case Qt::Key_Period:
+            return Key{keyCode::decimal, u'.'};
+        default:
+            return std::nullopt;
+    }
+}
+
+// The key of a typed character, or nothing for what is no character of one unit. Digits and the decimal
+// separator of any script count as those of the calculator.
+std::optional<Key> typedKey(QChar character) {
+    constexpr char16_t arabicDecimalSeparator = 0x066B;
+    if (character.isDigit()) return keyOfCharacter(static_cast<char16_t>(u'0' + character.digitValue()));
+    if (character == arabicDecimalSeparator) return keyOfCharacter(u',');
+    if (!character.isPrint() || character.isSurrogate()) return std::nullopt;
+    return keyOfCharacter(character.unicode());
+}
+
+bool isLineEndOrTab(QChar character) {
+    return character == u'\r' || character == u'\n' || character == u'\t';
+}
+
+}  // namespace
+
+std::optional<Key> keyOf(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_Alt) return Key{keyCode::alt};
+    if (commandModifiers(event) == Qt::ControlModifier && event.key() == Qt::Key_R) {
+        return Key{keyOfCharacter(u'R').code, 18};
+    }
+    if (commandModifiers(event)) return std::nullopt;
+    if (const auto named = namedKey(event.key())) return named;
+    if (event.modifiers() & Qt::KeypadModifier) {
+        if (const auto keypad = keypadOperator(event.key())) return keypad;
+    }
+    return event.text().size() == 1 ? typedKey(event.text().front()) : std::nullopt;
+}
+
+KeyEvents::KeyEvents(QWidget& form, Window& window, KeyRoad& keys, std::function<void(Control&)> press,
+                     std::function<void()> refresh)
+    : form_(form), window_(window), keys_(keys), press_(std::move(press)), refresh_(std::move(refresh)) {
+    // Only there every key comes by before a widget or a shortcut can take it.
+    qApp->installEventFilter(this);
+}
+
+bool KeyEvents::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() == QEvent::WindowDeactivate && receiver == &form_) {
+        held_.clear();
+        keys_.releaseAll();
+        refresh_();
+        return false;
+    }
+    auto* const widget = qobject_cast<QWidget*>(receiver);
+    if (widget == nullptr || widget->window() != &form_) return false;
+    switch (event->type()) {
+        case QEvent::ShortcutOverride:
+            break;
+        case QEvent::KeyPress:
+            keyPressed(static_cast<QKeyEvent&>(*event));
+            break;
+        case QEvent::KeyRelease:
+            keyReleased(static_cast<QKeyEvent&>(*event));
+            break;
+        case QEvent::InputMethod:
+            type(static_cast<QInputMethodEvent&>(*event).commitString());
+            break;
+        case QEvent::MouseButtonPress:
+            if (static_cast<QMouseEvent&>(*event).button() != Qt::MiddleButton) return false;
+            type(QGuiApplication::clipboard()->text(QClipboard::Selection));
+            break;
+        default:
+            return false;
+    }
+    event->accept();
+    return true;
+}
+
+void KeyEvents::keyPressed(const QKeyEvent& event) {
+    const quint32 scanCode = event.nativeScanCode();
+    // A key that went down in another window repeats here, and stays that window's.
+    if (event.isAutoRepeat() && !held_.contains(scanCode)) return;
+    // The window manager can keep the release of Alt to itself.
+    if (!(event.modifiers() & Qt::AltModifier)) {
+        const auto alt = std::find_if(held_.begin(), held_.end(),
+                                      [](const auto& held) { return held.second.code == keyCode::alt; });
+        if (alt != held_.end()) letGoOf(alt->first);
+    }
+    if (isPaste(event)) return type(QGuiApplication::clipboard()->text());
+    if (commandModifiers(event) == Qt::AltModifier && event.key() != Qt::Key_Alt) {
+        const QChar letter = event.key() == Qt::Key_Space ? u' ' : QChar(event.text().left(1).front());
+        if (Control* const control = accessControl(letter)) press_(*control);
+        return;
+    }
+    const auto key = keyOf(event);
+    if (!key) return;
+    const auto held = held_.find(scanCode);
+    if (held != held_.end() && held->second != *key) letGoOf(scanCode);
+    held_[scanCode] = *key;
+    keys_.keyDown(*key);
+    refresh_();
+}
+
+void KeyEvents::keyReleased(const QKeyEvent& event) {
+    if (event.isAutoRepeat() || !held_.contains(event.nativeScanCode())) return;
+    letGoOf(event.nativeScanCode());
+    refresh_();
+}
+
+void KeyEvents::letGoOf(quint32 scanCode) {
+    const Key key = held_.extract(scanCode).mapped();
+    keys_.keyUp(key);
+}
+
+// Line ends and tabs between figures are Enter, as they end an entry; those behind the last one are left out,
+// so that a copied cell or line waits for the user's own key.
+void KeyEvents::type(QString text) {
+    while (!text.isEmpty() && isLineEndOrTab(text.back())) text.chop(1);
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    for (const QChar character : std::as_const(text)) {
+        if (const auto key = isLineEndOrTab(character) ? keyOfCharacter(13) : typedKey(character)) {
+            keys_.stroke(*key);
+        }
+    }
+    refresh_();
+}
+
+// The topmost control that is in use and has the letter behind the "&" of its caption.
+Control* KeyEvents::accessControl(QChar letter) const {
+    const auto answers = [&](const Control* control) {
+        const bool pressable = control->kind == ControlKind::button || control->kind == ControlKind::checkBox;
+        const std::size_t mark = control->caption.find(u'&');
+        return pressable && control->shown() && control->enabled && mark + 1 < control->caption.size() &&
+               QChar(control->caption[mark + 1]).toLower() == letter.toLower();
+    };
+    const auto& controls = window_.controls();
+    const auto found = std::find_if(controls.rbegin(), controls.rend(), answers);
+    return found == controls.rend() ? nullptr : *found;
+}
+
+}  // namespace zifferon

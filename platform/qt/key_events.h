@@ -1,0 +1,45 @@
+// The keys of a window: they all go to its key road, whatever widget has the keyboard, and so does text that
+// is pasted or comes from an input method.
+#pragma once
+
+#include <QKeyEvent>
+#include <QObject>
+#include <functional>
+#include <map>
+#include <optional>
+
+#include "platform/key_road.h"
+
+namespace zifferon {
+
+// The key of an event, or nothing where it neither types nor commands: Shift and its like, unknown keys, and
+// all that is pressed together with Ctrl, Alt or Meta but Ctrl+R.
+std::optional<Key> keyOf(const QKeyEvent& event);
+
+class KeyEvents : public QObject {
+  public:
+    // Watches `form` from now on. `press` is told the control of an access key, `refresh` runs when something
+    // may have changed.
+    KeyEvents(QWidget& form, Window& window, KeyRoad& keys, std::function<void(Control&)> press,
+              std::function<void()> refresh);
+
+  private:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+    void keyPressed(const QKeyEvent& event);
+    void keyReleased(const QKeyEvent& event);
+    void letGoOf(quint32 scanCode);
+    void type(QString text);
+    Control* accessControl(QChar letter) const;
+
+    QWidget& form_;
+    Window& window_;
+    KeyRoad& keys_;
+    std::function<void(Control&)> press_;
+    std::function<void()> refresh_;
+
+    // Physical keys that are down, by scan code: the key itself may be another one at its release, when Shift
+    // was let go first.
+    std::map<quint32, Key> held_;
+};
+
+}  // namespace zifferon

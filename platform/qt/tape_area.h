@@ -1,0 +1,47 @@
+// Shows a text of many lines and follows its end. It keeps only where each line starts, and paints only the
+// lines that are seen, so that a tape of any length costs the same.
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <cstddef>
+#include <vector>
+
+#include "platform/text_field.h"
+
+namespace zifferon {
+
+class TapeArea : public QAbstractScrollArea {
+  public:
+    explicit TapeArea(TextField& field, QWidget* parent = nullptr);
+
+    // Takes over what has changed in the text since the last call.
+    void follow();
+
+    std::size_t positionAt(QPoint position) const;
+
+  private:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+    void findLines(std::size_t unchanged);
+    void fitScrollBar();
+    void showLine(std::size_t line);
+    void paintLine(QPainter& painter, std::size_t line, int top) const;
+    void paintCaret(QPainter& painter) const;
+
+    TextView line(std::size_t index) const;
+    std::size_t lineOf(std::size_t position) const;
+    int lineHeight() const;
+    int linesInView() const;
+    int topOf(std::size_t line) const;
+    int leftOf(TextView line) const;
+    int columnEdge() const;
+
+    TextField& field_;
+    std::vector<std::size_t> starts_{0};
+    std::size_t length_ = 0;
+    std::size_t caret_ = 0;
+};
+
+}  // namespace zifferon

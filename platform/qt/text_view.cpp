@@ -1,0 +1,102 @@
+#include "platform/qt/text_view.h"
+
+#include <QLineEdit>
+#include <algorithm>
+
+#include "platform/qt/form_view.h"
+#include "platform/qt/tape_area.h"
+
+namespace zifferon {
+
+namespace {
+
+// What the mouse does is the same in every text field: a press gives the focus and places the caret, a drag
+// selects from there.
+class TextView : public ControlView {
+  public:
+    TextView(TextField& field, QWidget& widget, QWidget& surface, FormView& form)
+        : ControlView(field, widget, surface, form), field_(field) {
+        widget.setFocusPolicy(Qt::TabFocus);  // so that a screen reader may focus it, but no click does
+        surface.setCursor(field.takesFocus ? Qt::IBeamCursor : Qt::ArrowCursor);
+    }
+
+  protected:
+    TextField& field() const { return field_; }
+
+    // The number of characters before the place.
+    virtual std::size_t positionAt(QPoint position) const = 0;
+
+  private:
+    void mousePressed(QPoint position) override {
+        if (!field_.takesFocus) return;
+        form().run([&] {
+            form().window().setFocus(field_);
+            anchor_ = positionAt(position);
+            field_.setCaret(anchor_);
+        });
+    }
+
+    void mouseDragged(QPoint position) override {
+        if (!field_.takesFocus) return;
+        const std::size_t end = positionAt(position);
+        form().run(
+            [&] { field_.select(std::min(anchor_, end), std::max(anchor_, end) - std::min(anchor_, end)); });
+    }
+
+    TextField& field_;
+    std::size_t anchor_ = 0;
+};
+
+class LineView : public TextView {
+  public:
+    LineView(TextField& field, FormView& form) : LineView(field, *new QLineEdit(&form), form) {}
+
+  private:
+    LineView(TextField& field, QLineEdit& line, FormView& form)
+        : TextView(field, line, line, form), line_(line) {
+        line_.setContextMenuPolicy(Qt::NoContextMenu);
+        line_.setReadOnly(!field.takesFocus);
+    }
+
+    std::size_t positionAt(QPoint position) const override {
+        return std::size_t(line_.cursorPositionAt(position));
+    }
+
+    void refreshContent() override {
+        const QString text = toQString(field().text());
+        if (line_.text() != text) line_.setText(text);
+        if (differs(alignment_, field().alignment)) line_.setAlignment(qtAlignment(field().alignment));
+        const int caret = int(field().caret());
+        const int length = int(field().selectionLength());
+        if (line_.cursorPosition() == caret && line_.selectionLength() == length) return;
+        // A selection made backwards leaves the caret at its start.
+        line_.setSelection(caret + length, -length);
+    }
+
+    QLineEdit& line_;
+    std::optional<Alignment> alignment_;
+};
+
+class TapeView : public TextView {
+  public:
+    TapeView(TextField& field, FormView& form) : TapeView(field, *new TapeArea(field, &form), form) {}
+
+  private:
+    TapeView(TextField& field, TapeArea& area, FormView& form)
+        : TextView(field, area, *area.viewport(), form), area_(area) {}
+
+    std::size_t positionAt(QPoint position) const override { return area_.positionAt(position); }
+
+    void refreshContent() override { area_.follow(); }
+
+    TapeArea& area_;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> makeTextView(TextField& field, FormView& form) {
+    if (field.multiLine) return std::make_unique<TapeView>(field, form);
+    return std::make_unique<LineView>(field, form);
+}
+
+}  // namespace zifferon

@@ -1,0 +1,68 @@
+// A text field: its text, caret, selection and limits, and the field's own reaction to keys. Typing,
+// Backspace and insertion are done here, once, for the window and for the program without one.
+#pragma once
+
+#include <cstddef>
+
+#include "platform/control.h"
+
+namespace zifferon {
+
+class TextField : public Control {
+  public:
+    explicit TextField(Alignment initialAlignment = Alignment::left) : Control(ControlKind::textField) {
+        alignment = initialAlignment;
+    }
+
+    const Text& text() const { return text_; }
+    bool empty() const { return text_.empty(); }
+    bool is(TextView text) const { return text_ == text; }
+    bool contains(TextView part) const { return zifferon::contains(text_, part); }
+
+    // Writes the text and puts the caret at 0. When the text has really changed, onChange runs before the
+    // call returns.
+    void setText(TextView text);
+
+    // Adds to the end of the text; costs the same at any length. Otherwise like setText.
+    void append(TextView text);
+
+    std::size_t caret() const { return caret_; }
+    std::size_t selectionStart() const { return caret_; }
+    std::size_t selectionLength() const { return selection_; }
+
+    // Caret and selection are held within the text. The caret stands at the start of the selection.
+    void select(std::size_t start, std::size_t length);
+    void setCaret(std::size_t position) { select(position, 0); }
+    void caretToEnd() { setCaret(text_.size()); }
+
+    // The field's own handling of an editing key: arrows, Home, End, Delete. Other codes do nothing.
+    void editByKey(int code);
+
+    // The field's own handling of a character that the key press left: 8 is a Backspace, printable ones enter
+    // at the caret in place of the selection unless the field is locked or full, all others do nothing. A
+    // change runs onChange.
+    void typeCharacter(char16_t character);
+
+    bool multiLine = false;
+    bool locked = false;  // editing keys change nothing; writing by code does
+    bool blankIgnoresLimit =
+        false;                  // a blank enters a full field too, for the Backspace that is queued for it
+    std::size_t maxLength = 0;  // for typing only; 0: no limit
+
+    std::function<void()> onChange;
+
+    // For the one view: how many leading characters have stood unchanged since the last call. With the length
+    // that it knows, the view can append what was appended.
+    std::size_t takeUnchangedPrefix();
+
+  private:
+    void replace(std::size_t start, std::size_t length, TextView by);
+    void changed(std::size_t unchangedPrefix);
+
+    Text text_;
+    std::size_t caret_ = 0;
+    std::size_t selection_ = 0;
+    std::size_t unchangedPrefix_ = 0;
+};
+
+}  // namespace zifferon

@@ -1,0 +1,50 @@
+// A window as a value: its controls in drawing order, its timers, its size, and which control has the focus.
+#pragma once
+
+#include <vector>
+
+#include "platform/control.h"
+#include "platform/text_field.h"
+#include "platform/timer.h"
+
+namespace zifferon {
+
+// What a window's frame and caption take of its place, in twips: 3 pixels each side, and a caption of 19.
+constexpr int frameWidth = 90, frameHeight = 375;
+
+class Window {
+  public:
+    Window() = default;
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+    virtual ~Window() = default;
+
+    Text name;
+    Text caption;
+    Place place;  // with frame and caption, in twips
+    bool visible = false;
+    Colour backColour{192, 192, 192};
+
+    // Later controls lie above earlier ones.
+    void add(Control& control, TextView controlName);
+    void add(Timer& timer, TextView timerName);
+    const std::vector<Control*>& controls() const { return controls_; }
+    const std::vector<Timer*>& timers() const { return timers_; }
+
+    // The control of that name, or null.
+    Control* find(TextView controlName) const;
+
+    // The control that gets the keys, or null.
+    Control* focus() const { return focus_; }
+
+    // Moves the focus with its lost and got handlers; to the control that has it, nothing happens. Returns
+    // false, and changes nothing, where the window is not visible or the control hidden or disabled.
+    bool setFocus(Control& control);
+
+  private:
+    std::vector<Control*> controls_;
+    std::vector<Timer*> timers_;
+    Control* focus_ = nullptr;
+};
+
+}  // namespace zifferon

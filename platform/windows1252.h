@@ -1,0 +1,16 @@
+// The 8-bit character set of every file of the program: Windows-1252, one byte per character.
+#pragma once
+
+#include <optional>
+
+#include "platform/text.h"
+
+namespace zifferon {
+
+// The character of a byte. The five bytes without a character stand for the control code of the same number.
+char16_t fromWindows1252(unsigned char byte);
+
+// The byte of a character, or nothing where the set does not hold it.
+std::optional<unsigned char> toWindows1252(char16_t character);
+
+}  // namespace zifferon

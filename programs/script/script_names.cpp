@@ -1,0 +1,241 @@
+#include "programs/script/script_names.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <unordered_map>
+
+namespace zifferon {
+
+namespace {
+
+using State = CalculatorState;
+
+std::string render(bool value) { return value ? "true" : "false"; }
+
+std::string render(double value) {
+    std::array<char, 400> buffer;
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed).ptr;
+    return {buffer.data(), end};
+}
+
+std::string render(const Text& value) { return quoted(value); }
+
+std::string render(const CalcValue& value) {
+    return value.text() != nullptr ? "text " + quoted(*value.text()) : describe(value);
+}
+
+std::string render(Alignment alignment) {
+    switch (alignment) {
+        case Alignment::left:
+            return "left";
+        case Alignment::right:
+            return "right";
+        case Alignment::centre:
+            break;
+    }
+    return "centre";
+}
+
+using Variable = std::string (*)(const State&);
+
+template <auto member>
+std::string variable(const State& s) {
+    return render(s.*member);
+}
+
+const std::unordered_map<std::string_view, Variable>& variables() {
+    static const std::unordered_map<std::string_view, Variable> table = {
+        {"operand", variable<&State::operand>},
+        {"accumulator", variable<&State::accumulator>},
+        {"pendingOpCode", variable<&State::pendingOpCode>},
+        {"chainActive", variable<&State::chainActive>},
+        {"chainTotalled", variable<&State::chainTotalled>},
+        {"tapeClearArmed", variable<&State::tapeClearArmed>},
+        {"decimalPlaces", variable<&State::decimalPlaces>},
+        {"operandLength", variable<&State::operandLength>},
+        {"roundingDone", variable<&State::roundingDone>},
+        {"roundingDoneSpecial", variable<&State::roundingDoneSpecial>},
+        {"rootDone", variable<&State::rootDone>},
+        {"roundingBlock", variable<&State::roundingBlock>},
+        {"numberFormat", variable<&State::numberFormat>},
+        {"tapeFormat", variable<&State::tapeFormat>},
+        {"formatMode", variable<&State::formatMode>},
+        {"decimalPointStyle", variable<&State::decimalPointStyle>},
+        {"percentPrompt", variable<&State::percentPrompt>},
+        {"percentRunning", variable<&State::percentRunning>},
+        {"percentDone", variable<&State::percentDone>},
+        {"percentBase", variable<&State::percentBase>},
+        {"percentRate", variable<&State::percentRate>},
+        {"rootRepeat", variable<&State::rootRepeat>},
+        {"differenceStart", variable<&State::differenceStart>},
+        {"differenceActive", variable<&State::differenceActive>},
+        {"secondValuePrompt", variable<&State::secondValuePrompt>},
+        {"differenceShown", variable<&State::differenceShown>},
+        {"differenceValue1", variable<&State::differenceValue1>},
+        {"differenceValue2", variable<&State::differenceValue2>},
+        {"differenceOnePercent", variable<&State::differenceOnePercent>},
+        {"differenceDelta", variable<&State::differenceDelta>},
+        {"differencePercent", variable<&State::differencePercent>},
+        {"firstValueCheck", variable<&State::firstValueCheck>},
+        {"enterHeld", variable<&State::enterHeld>},
+        {"skipSnapshot", variable<&State::skipSnapshot>},
+        {"multiplyPressed", variable<&State::multiplyPressed>},
+        {"dividePressed", variable<&State::dividePressed>},
+        {"keyBlockedOnce", variable<&State::keyBlockedOnce>},
+        {"promptKeyBlocked", variable<&State::promptKeyBlocked>},
+        {"blockedKeyReleased", variable<&State::blockedKeyReleased>},
+        {"idleClearLatch", variable<&State::idleClearLatch>},
+        {"keySound", variable<&State::keySound>},
+        {"suppressClipboard", variable<&State::suppressClipboard>},
+        {"clipboardText", variable<&State::clipboardText>},
+        {"tapeDirty", variable<&State::tapeDirty>},
+        {"messageTicks", variable<&State::messageTicks>},
+        {"undoCounter", [](const State& s) { return "int " + std::to_string(s.undoCounter); }},
+        {"undoActive", variable<&State::undoActive>},
+        {"tapeEmptied", variable<&State::tapeEmptied>},
+        {"undoStepPending", variable<&State::undoStepPending>},
+        {"specialSnapshotLatch", variable<&State::specialSnapshotLatch>},
+        {"undoRepeatArmed", variable<&State::undoRepeatArmed>},
+        {"cellEnterTransfer", variable<&State::cellEnterTransfer>},
+        {"memoryConfirmOff", variable<&State::memoryConfirmOff>},
+        {"windowMode", [](const State& s) { return std::to_string(s.windowMode); }},
+        {"languageEnglish", variable<&State::languageEnglish>},
+    };
+    return table;
+}
+
+std::optional<std::string> propertyOf(const Control& control, std::string_view property) {
+    if (property == "visible") return render(control.visible);
+    if (property == "enabled") return render(control.enabled);
+    if (property == "caption") return render(control.caption);
+    if (property == "tooltip") return render(control.toolTip);
+    if (property == "left") return std::to_string(control.place.left);
+    if (property == "top") return std::to_string(control.place.top);
+    if (property == "width") return std::to_string(control.place.width);
+    if (property == "height") return std::to_string(control.place.height);
+    if (property == "align") return render(control.alignment);
+    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) {
+        if (property == "ticked") return render(box->ticked());
+    }
+    if (const auto* field = dynamic_cast<const TextField*>(&control)) {
+        if (property == "text") return render(field->text());
+        if (property == "caret") return std::to_string(field->caret());
+        if (property == "locked") return render(field->locked);
+        if (property == "maxLength") return std::to_string(field->maxLength);
+    }
+    return std::nullopt;
+}
+
+std::string mainValueOf(const Control& control) {
+    const auto* field = dynamic_cast<const TextField*>(&control);
+    return render(field != nullptr ? field->text() : control.caption);
+}
+
+std::optional<std::string> propertyOf(const Window& window, std::string_view property) {
+    if (property == "visible") return render(window.visible);
+    if (property == "caption") return render(window.caption);
+    if (property == "left") return std::to_string(window.place.left);
+    if (property == "top") return std::to_string(window.place.top);
+    if (property == "width") return std::to_string(window.place.width);
+    if (property == "height") return std::to_string(window.place.height);
+    return std::nullopt;
+}
+
+constexpr std::string_view dumped[] = {"eingabe",
+                                       "eingabe.caret",
+                                       "eingabe.locked",
+                                       "eingabe.maxLength",
+                                       "zwischen",
+                                       "zwischen.align",
+                                       "txtop",
+                                       "anzeige",
+                                       "superdruck",
+                                       "memo1",
+                                       "memo2",
+                                       "memo3",
+                                       "memo4",
+                                       "memo5",
+                                       "Texterror",
+                                       "Texterror.visible",
+                                       "checkrnd",
+                                       "checkrnd.ticked",
+                                       "Checkob.ticked",
+                                       "Checksound.ticked",
+                                       "clipcheck.ticked",
+                                       "zurück.enabled",
+                                       "focus",
+                                       "operand",
+                                       "accumulator",
+                                       "pendingOpCode",
+                                       "chainActive",
+                                       "chainTotalled",
+                                       "tapeClearArmed",
+                                       "decimalPlaces",
+                                       "roundingDone",
+                                       "roundingDoneSpecial",
+                                       "rootDone",
+                                       "roundingBlock",
+                                       "formatMode",
+                                       "decimalPointStyle",
+                                       "percentPrompt",
+                                       "percentRunning",
+                                       "percentDone",
+                                       "percentBase",
+                                       "percentRate",
+                                       "rootRepeat",
+                                       "differenceStart",
+                                       "differenceActive",
+                                       "secondValuePrompt",
+                                       "differenceShown",
+                                       "enterHeld",
+                                       "skipSnapshot",
+                                       "multiplyPressed",
+                                       "dividePressed",
+                                       "keyBlockedOnce",
+                                       "promptKeyBlocked",
+                                       "blockedKeyReleased",
+                                       "idleClearLatch",
+                                       "keySound",
+                                       "suppressClipboard",
+                                       "tapeDirty",
+                                       "undoCounter",
+                                       "tapeEmptied",
+                                       "undoStepPending",
+                                       "specialSnapshotLatch",
+                                       "undoRepeatArmed",
+                                       "cellEnterTransfer",
+                                       "memoryConfirmOff",
+                                       "windowMode",
+                                       "languageEnglish",
+                                       "clipboard"};
+
+}  // namespace
+
+std::span<const std::string_view> dumpNames() { return dumped; }
+
+Control* controlOf(std::string_view name, const Program& program) {
+    return program.pultform.find(fromUtf8(name));
+}
+
+std::optional<std::string> valueOf(std::string_view name, const Program& program,
+                                   const HeadlessMachine& machine) {
+    const auto found = variables().find(name);
+    if (found != variables().end()) return found->second(program.pultform.state);
+    if (name == "clipboard") return quoted(machine.clipboardText());
+    if (name == "focus") {
+        const Control* focus = program.pultform.focus();
+        return focus != nullptr ? toUtf8(focus->name) : "";
+    }
+    if (const Control* control = controlOf(name, program)) return mainValueOf(*control);
+    const std::size_t point = name.rfind('.');
+    if (point == std::string_view::npos) return std::nullopt;
+    const std::string_view owner = name.substr(0, point);
+    const std::string_view property = name.substr(point + 1);
+    if (const Control* control = controlOf(owner, program)) return propertyOf(*control, property);
+    if (owner == toUtf8(program.pultform.name)) return propertyOf(program.pultform, property);
+    return std::nullopt;
+}
+
+}  // namespace zifferon

@@ -1,0 +1,223 @@
+#include "programs/script/script_runner.h"
+
+#include <string>
+
+#include "core/number_format.h"
+#include "platform/user_actions.h"
+#include "programs/script/decimal_command.h"
+#include "programs/script/script_keys.h"
+#include "programs/script/script_names.h"
+
+namespace zifferon {
+
+ScriptRunner::ScriptRunner(std::ostream& out, std::ostream& errors)
+    : out_(out), errors_(errors), headless_(out), machine_{headless_, headless_, headless_} {}
+
+int ScriptRunner::run(std::istream& script) {
+    std::string line;
+    try {
+        while (std::getline(script, line)) {
+            ++lineNumber_;
+            if (!line.empty() && line.back() == '\r') line.pop_back();
+            runLine(line);
+        }
+    } catch (const MalformedScript& reason) {
+        out_.flush();
+        errors_ << "line " << lineNumber_ << ": " << reason.what() << '\n';
+        return 2;
+    }
+    out_.flush();
+    return allHeld_ ? 0 : 1;
+}
+
+void ScriptRunner::runLine(std::string_view text) {
+    ScriptLine line(text);
+    if (line.atEnd() || text.front() == '#') return;
+    const std::string command = line.word();
+    if (runKeys(command, line) || runStage(command, line) || runLook(command, line) ||
+        runMouse(command, line)) {
+        return;
+    }
+    throw MalformedScript("unknown command " + command);
+}
+
+bool ScriptRunner::runStage(const std::string& command, ScriptLine& line) {
+    if (command == "fresh") return fresh(line), true;
+    if (command == "answer") return answer(line), true;
+    if (command == "decimal") {
+        out_ << decimalCommand(line) << '\n';
+        return true;
+    }
+    if (command == "wait") {
+        const std::int64_t milliseconds = line.number();
+        line.expectEnd();
+        headless_.wait(milliseconds, program().pultform, program().keys);
+        return true;
+    }
+    return false;
+}
+
+bool ScriptRunner::runKeys(const std::string& command, ScriptLine& line) {
+    if (command == "type") return type(fromUtf8(line.verbatim())), true;
+    if (command == "press") {
+        do {
+            const std::string name = line.word();
+            if (isAccessKeyOfBlank(name)) {
+                Control* const button = program().pultform.find(u"spezrnd");
+                program().keys.run(button->onClick);
+            } else {
+                program().keys.stroke(scriptKey(name));
+            }
+        } while (!line.atEnd());
+        return true;
+    }
+    if (command == "hold") {
+        const Key key = scriptKey(line.word());
+        const std::int64_t times = line.number();
+        line.expectEnd();
+        for (std::int64_t i = 0; i < times; ++i) program().keys.keyDown(key);
+        program().keys.keyUp(key);
+        return true;
+    }
+    if (command == "down" || command == "up") {
+        const Key key = scriptKey(line.word());
+        line.expectEnd();
+        command == "down" ? program().keys.keyDown(key) : program().keys.keyUp(key);
+        return true;
+    }
+    return false;
+}
+
+bool ScriptRunner::runMouse(const std::string& command, ScriptLine& line) {
+    if (command == "focus" || command == "caret" || command == "select") return select(command, line), true;
+    Window& window = program_ ? static_cast<Window&>(program_->pultform) : program().pultform;
+    KeyRoad& keys = program().keys;
+    if (command == "click") return userClick(window, keys, control(line)), true;
+    if (command == "dblclick") return userDoubleClick(window, keys, control(line)), true;
+    if (command == "mousedown") return userMouseDown(keys, control(line)), true;
+    if (command == "mouseup") return userMouseUp(keys, control(line)), true;
+    if (command == "hover") return userHover(keys, control(line)), true;
+    return false;
+}
+
+bool ScriptRunner::runLook(const std::string& command, ScriptLine& line) {
+    if (command == "show") {
+        do show(line.word());
+        while (!line.atEnd());
+        return true;
+    }
+    if (command == "dump") {
+        for (const std::string_view name : dumpNames()) show(name);
+        out_ << ".\n";
+        return true;
+    }
+    if (command == "expect") return expect(line), true;
+    if (command == "expect-tape") return expectLines("anzeige", line), true;
+    if (command == "expect-print") return expectLines("superdruck", line), true;
+    return false;
+}
+
+void ScriptRunner::fresh(ScriptLine& line) {
+    program_ = std::make_unique<Program>(machine_);
+    headless_.emptyClipboardSilently();
+    CalculatorState& s = program_->pultform.state;
+    while (!line.atEnd()) {
+        const std::string word = line.word();
+        if (word == "english") {
+            s.languageEnglish = true;
+        } else if (word == "point") {
+            s.decimalPointStyle = 1;
+        } else if (word == "unformatted") {
+            s.formatMode = 2;
+        } else {
+            throw MalformedScript("unknown setting " + word);
+        }
+    }
+    applyFormatMode(s);
+    program_->show();
+}
+
+void ScriptRunner::answer(ScriptLine& line) {
+    do {
+        const std::string word = line.word();
+        if (word == "yes") {
+            headless_.queueAnswer(BoxAnswer::yes);
+        } else if (word == "no") {
+            headless_.queueAnswer(BoxAnswer::no);
+        } else if (word == "ok") {
+            headless_.queueAnswer(BoxAnswer::ok);
+        } else if (word == "cancel") {
+            headless_.queueAnswer(BoxAnswer::cancel);
+        } else {
+            throw MalformedScript("unknown answer " + word);
+        }
+    } while (!line.atEnd());
+}
+
+void ScriptRunner::type(TextView text) {
+    for (const char16_t character : text) program().keys.stroke(keyOfCharacter(character));
+}
+
+void ScriptRunner::select(const std::string& command, ScriptLine& line) {
+    Control& target = control(line);
+    if (command == "focus") return program().keys.run([&] { program().pultform.setFocus(target); });
+    auto* const field = dynamic_cast<TextField*>(&target);
+    if (field == nullptr) throw MalformedScript("no text field");
+    const auto start = static_cast<std::size_t>(line.number());
+    field->select(start, command == "select" ? static_cast<std::size_t>(line.number()) : 0);
+}
+
+void ScriptRunner::show(std::string_view name) {
+    const auto value = valueOf(name, program(), headless_);
+    if (!value) throw MalformedScript("unknown name " + std::string(name));
+    out_ << name << " = " << *value << '\n';
+}
+
+namespace {
+
+// The expected value in the one form in which values are shown.
+std::string normalised(ScriptLine& line) {
+    if (line.atQuote()) return quoted(line.quotedText());
+    const std::string word = line.word();
+    if (word == "text" && line.atQuote()) return "text " + quoted(line.quotedText());
+    const std::string rest = line.remainder();
+    return rest.empty() ? word : word + ' ' + rest;
+}
+
+}  // namespace
+
+void ScriptRunner::expect(ScriptLine& line) {
+    const std::string name = line.word();
+    const auto found = valueOf(name, program(), headless_);
+    if (!found) throw MalformedScript("unknown name " + name);
+    const std::string expected = normalised(line);
+    line.expectEnd();
+    if (*found != expected && *found != "int " + expected) fail(name, expected, *found);
+}
+
+void ScriptRunner::expectLines(const char* fieldName, ScriptLine& line) {
+    Text expected = line.quotedText();
+    while (!line.atEnd()) expected += u"\r\n" + line.quotedText();
+    const auto found = valueOf(fieldName, program(), headless_);
+    if (*found != quoted(expected)) fail(fieldName, quoted(expected), *found);
+}
+
+void ScriptRunner::fail(std::string_view name, std::string_view expected, std::string_view found) {
+    allHeld_ = false;
+    errors_ << "line " << lineNumber_ << ": " << name << ": expected " << expected << ", found " << found
+            << '\n';
+}
+
+Program& ScriptRunner::program() {
+    if (!program_) throw MalformedScript("no calculator yet: fresh comes first");
+    return *program_;
+}
+
+Control& ScriptRunner::control(ScriptLine& line) {
+    const std::string name = line.word();
+    Control* const found = controlOf(name, program());
+    if (found == nullptr) throw MalformedScript("unknown control " + name);
+    return *found;
+}
+
+}  // namespace zifferon

@@ -1,0 +1,52 @@
+// Runs a key script on the program without a window: one line is one command.
+#pragma once
+
+#include <istream>
+#include <memory>
+#include <ostream>
+#include <string_view>
+
+#include "platform/headless/headless_machine.h"
+#include "programs/script/script_line.h"
+#include "shell/program.h"
+
+namespace zifferon {
+
+class ScriptRunner {
+  public:
+    // What is shown and what happens goes to `out`; failed expectations and the reason of a malformed script,
+    // with their line numbers, to `errors`.
+    ScriptRunner(std::ostream& out, std::ostream& errors);
+
+    // Exit code: 0 all expectations held, 1 one failed, 2 the script is malformed and stopped at that line.
+    int run(std::istream& script);
+
+  private:
+    void runLine(std::string_view line);
+    bool runStage(const std::string& command, ScriptLine& line);
+    bool runKeys(const std::string& command, ScriptLine& line);
+    bool runMouse(const std::string& command, ScriptLine& line);
+    bool runLook(const std::string& command, ScriptLine& line);
+
+    void fresh(ScriptLine& line);
+    void answer(ScriptLine& line);
+    void type(TextView text);
+    void select(const std::string& command, ScriptLine& line);
+    void show(std::string_view name);
+    void expect(ScriptLine& line);
+    void expectLines(const char* fieldName, ScriptLine& line);
+    void fail(std::string_view name, std::string_view expected, std::string_view found);
+
+    Program& program();
+    Control& control(ScriptLine& line);
+
+    std::ostream& out_;
+    std::ostream& errors_;
+    HeadlessMachine headless_;
+    Machine machine_;
+    std::unique_ptr<Program> program_;
+    std::size_t lineNumber_ = 0;
+    bool allHeld_ = true;
+};
+
+}  // namespace zifferon

@@ -1,0 +1,20 @@
+// The window program.
+#include <QApplication>
+#include <QIcon>
+
+#include "platform/qt/form_view.h"
+#include "platform/qt/qt_machine.h"
+#include "shell/program.h"
+
+int main(int argc, char** argv) {
+    // One look on every desktop: the program brings its own colours.
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication application(argc, argv);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/zifferonpro.svg")));
+    zifferon::QtMachine machine;
+    zifferon::Program program(machine.machine);
+    zifferon::FormView view(program.pultform, program.keys);
+    program.show();
+    view.refresh();
+    return QApplication::exec();
+}

@@ -1,0 +1,89 @@
+#include "shell/program.h"
+
+#include "core/failure.h"
+#include "core/key_press.h"
+#include "core/key_release.h"
+#include "core/rounding.h"
+#include "core/special_rounding.h"
+#include "shell/send_keys.h"
+
+namespace zifferon {
+
+Program::Program(Machine& machine)
+    : keys(pultform, [this] { machine_.sound.beep(); }),
+      machine_(machine),
+      cells_(pultform.state, pultform.memoLabels, pultform, machine),
+      commands_{pultform.state, pultform, machine.boxes, {}} {
+    wireCalls();
+    wireCommands();
+    wireEntry();
+    wireFields();
+    wireRounding();
+    cells_.wire();
+}
+
+void Program::show() {
+    pultform.visible = true;
+    pultform.setFocus(pultform.state.eingabe);
+}
+
+void Program::wireCalls() {
+    CalculatorState& s = pultform.state;
+    s.calls.takeUndoSnapshot = [] {};
+    s.calls.writeSnapshotFile = [] {};
+    s.calls.copyEntryToClipboard = [this] { cells_.copyEntryToClipboard(); };
+    s.calls.restorePendingOperator = [this] { cells_.restorePendingOperator(); };
+    s.calls.memoryStoreStage = [this](char16_t key) { cells_.memoryStoreStage(key); };
+    s.calls.memoryRecallStage = [this](char16_t key) { cells_.memoryRecallStage(key); };
+    s.calls.SendKeysEx = [this](TextView notation) {
+        for (const Key key : keysOfNotation(notation)) keys.queue(key);
+    };
+    s.calls.focusEntry = [this] { pultform.setFocus(pultform.state.eingabe); };
+    s.calls.placeTexterror = [this] { pultform.placeTexterror(); };
+    s.calls.openHelp = [] {};
+    s.calls.beep = [this] { machine_.sound.beep(); };
+}
+
+void Program::wireCommands() {
+    CommandCalls& calls = commands_.calls;
+    calls.applyUndo = [] {};
+    calls.quit = calls.printTape = calls.nextWindowMode = [] {};
+    calls.nextTextColours = calls.nextBackColours = calls.standardColours = [] {};
+    calls.writeFormatMode = calls.askSeparator = [] {};
+    calls.writeStartOptions = [](bool) {};
+}
+
+void Program::wireEntry() {
+    CalculatorState& s = pultform.state;
+    s.eingabe.onKeyDown = [this](int& code) { handleCommandKey(commands_, code); };
+    s.eingabe.onKeyPress = [&s](char16_t& character) { eingabe_KeyPress(s, character); };
+    s.eingabe.onKeyUp = [&s](int code) { eingabe_KeyUp(s, code); };
+    s.eingabe.onChange = [&s] { s.blockedKeyReleased = false; };
+}
+
+void Program::wireFields() {
+    CalculatorState& s = pultform.state;
+    s.anzeige.onChange = [&s] {
+        s.tapeDirty = true;
+        s.anzeige.caretToEnd();
+    };
+}
+
+void Program::wireRounding() {
+    CalculatorState& s = pultform.state;
+    s.rndleft.onClick = [&s] { stepSelectorLeft(s); };
+    s.rndright.onClick = [&s] { stepSelectorRight(s); };
+    s.spezrnd.onClick = [&s] {
+        try {
+            spezrnd_Click(s);
+        } catch (const CalculationFailure&) {
+            // The entry is no number: there is nothing to round.
+        }
+    };
+    s.checkrnd.onClick = [&s] {
+        if (s.checkrnd.visible) s.calls.focusEntry();
+    };
+    s.errortimer.onTick = [&s] { errortimerTick(s); };
+}
+
+}  // namespace zifferon

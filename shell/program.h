@@ -1,0 +1,34 @@
+// The program without its view: the windows, the key road, and all handlers wired together in one place.
+#pragma once
+
+#include "memory/command_keys.h"
+#include "memory/memory_cells.h"
+#include "platform/key_road.h"
+#include "platform/machine.h"
+#include "shell/pultform.h"
+
+namespace zifferon {
+
+class Program {
+  public:
+    explicit Program(Machine& machine);
+
+    Pultform pultform;
+    KeyRoad keys;
+
+    // Shows the main window and gives the entry line the focus.
+    void show();
+
+  private:
+    void wireCalls();
+    void wireCommands();
+    void wireEntry();
+    void wireFields();
+    void wireRounding();
+
+    Machine& machine_;
+    MemoryCells cells_;
+    CommandDesk commands_;
+};
+
+}  // namespace zifferon

@@ -1,0 +1,40 @@
+#include "shell/pultform.h"
+
+namespace zifferon {
+
+Pultform::Pultform() {
+    name = u"Pultform";
+    caption = u"Zifferon PRO 5.0";
+    place = {0, 0, 8205, 8085};
+    CalculatorState& s = state;
+    add(Picture1, u"Picture1");
+    add(s.anzeige, u"anzeige");
+    add(Frame1, u"Frame1");
+    add(Frame2, u"Frame2");
+    add(Frame3, u"Frame3");
+    add(Frame4, u"Frame4");
+    constexpr TextView memoNames[] = {u"memo1", u"memo2", u"memo3", u"memo4", u"memo5"};
+    constexpr TextView labelNames[] = {u"Label3", u"Label4", u"Label5", u"Label6", u"Label7"};
+    for (std::size_t i = 0; i < s.memo.size(); ++i) {
+        add(memoLabels[i], labelNames[i]);
+        add(s.memo[i], memoNames[i]);
+    }
+    add(s.zwischen, u"zwischen");
+    add(s.eingabe, u"eingabe");
+    add(s.txtop, u"txtop");
+    add(s.checkrnd, u"checkrnd");
+    add(s.rndleft, u"rndleft");
+    add(s.rndright, u"rndright");
+    add(s.spezrnd, u"spezrnd");
+    add(s.zurück, u"zurück");
+    add(s.clipcheck, u"clipcheck");
+    add(s.Checksound, u"Checksound");
+    add(s.Checkob, u"Checkob");
+    add(s.Texterror, u"Texterror");
+    add(s.superdruck, u"superdruck");
+    add(s.errortimer, u"errortimer");
+    add(s.messtimer, u"messtimer");
+    layOutPultform(*this);
+}
+
+}  // namespace zifferon

@@ -1,0 +1,34 @@
+// The main window: the calculator's fields and everything around them, laid out in twips.
+#pragma once
+
+#include <array>
+
+#include "core/calculator_state.h"
+#include "platform/window.h"
+
+namespace zifferon {
+
+class Pultform : public Window {
+  public:
+    Pultform();
+
+    CalculatorState state;
+
+    // Texterror stands over the entry line, by the height of the window.
+    void placeTexterror() { state.Texterror.place.top = place.height < 5000 ? 340 : 6450; }
+
+    Control Frame1{ControlKind::frame};    // the entry block
+    Control Frame2{ControlKind::frame};    // the memory panel
+    Control Frame3{ControlKind::frame};    // the options
+    Control Frame4{ControlKind::picture};  // the memory labels; it has no line around it
+    std::array<Control, 5> memoLabels{Control{ControlKind::label}, Control{ControlKind::label},
+                                      Control{ControlKind::label}, Control{ControlKind::label},
+                                      Control{ControlKind::label}};  // Label3 to Label7: "M1" to "M5"
+    Control Picture1{ControlKind::picture};
+};
+
+// Gives every control of the window its place, caption, font and colours. A row of the table whose control
+// the window does not hold only reserves its place.
+void layOutPultform(Pultform& window);
+
+}  // namespace zifferon

@@ -1,0 +1,123 @@
+#include "core/decimal.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <fstream>
+#include <sstream>
+
+#include "core/failure.h"
+#include "core/number_text.h"
+
+namespace zifferon {
+namespace {
+
+struct Row {
+    std::string op, a, b, result;
+};
+
+std::vector<Row> rows() {
+    std::ifstream file(ZIFFERON_TESTS_DIR "/core/decimals-sample.tsv");
+    std::vector<Row> found;
+    for (std::string line; std::getline(file, line);) {
+        std::istringstream fields(line);
+        Row row;
+        std::getline(fields, row.op, '\t');
+        std::getline(fields, row.a, '\t');
+        std::getline(fields, row.b, '\t');
+        std::getline(fields, row.result, '\t');
+        found.push_back(row);
+    }
+    return found;
+}
+
+Decimal decimal(const std::string& text) { return parseDecimal(fromUtf8(text), pointStyle); }
+
+double doubleOfBits(const std::string& hex) {
+    std::uint64_t bits = 0;
+    std::from_chars(hex.data(), hex.data() + hex.size(), bits, 16);
+    return std::bit_cast<double>(bits);
+}
+
+std::string resultOf(const Row& row) {
+    const auto text = [](const Decimal& value) { return toUtf8(scaledText(value)); };
+    try {
+        if (row.op == "add") return text(decimal(row.a) + decimal(row.b));
+        if (row.op == "sub") return text(decimal(row.a) - decimal(row.b));
+        if (row.op == "mul") return text(decimal(row.a) * decimal(row.b));
+        if (row.op == "div") return text(decimal(row.a) / decimal(row.b));
+        if (row.op == "neg") return text(-decimal(row.a));
+        if (row.op == "trunc") return text(decimal(row.a).truncated());
+        if (row.op == "round") return text(decimal(row.a).rounded(std::stoi(row.b)));
+        if (row.op == "parse") return text(decimal(row.a));
+        if (row.op == "fromdbl") return text(Decimal::fromDouble(doubleOfBits(row.b)));
+        const auto order = decimal(row.a) <=> decimal(row.b);
+        return order < 0 ? "-1" : order > 0 ? "1" : "0";
+    } catch (const CalculationFailure& failure) {
+        switch (failure.kind()) {
+            case FailureKind::overflow:
+                return "OVERFLOW";
+            case FailureKind::divisionByZero:
+                return "DIVZERO";
+            case FailureKind::notANumber:
+                break;
+        }
+        return "FORMAT";
+    }
+}
+
+bool isFailure(const std::string& result) { return std::isupper(static_cast<unsigned char>(result[0])) != 0; }
+
+TEST(Decimal, givesTheMeasuredResultsToTheLastDigit) {
+    const std::vector<Row> all = rows();
+    ASSERT_EQ(all.size(), 600u);
+    for (const Row& row : all) {
+        SCOPED_TRACE(row.op + ' ' + row.a + ' ' + row.b);
+        if (row.op == "todbl") {
+            const double expected = doubleOfBits(row.b);
+            const double found = decimal(row.a).toDouble();
+            EXPECT_LE(found, std::nextafter(expected, INFINITY));
+            EXPECT_GE(found, std::nextafter(expected, -INFINITY));
+            continue;
+        }
+        const std::string found = resultOf(row);
+        if (isFailure(found) || isFailure(row.result)) {
+            EXPECT_EQ(found, row.result);
+        } else if (row.op == "fromdbl" || decimal(row.result).isZero()) {
+            EXPECT_TRUE(decimal(found) == decimal(row.result)) << found;
+        } else {
+            EXPECT_EQ(found, row.result);
+        }
+    }
+}
+
+TEST(Decimal, partsRoundTrip) {
+    const Decimal value = Decimal::fromParts(1, 2, 3, 28, true);
+    EXPECT_EQ(value.low(), 1u);
+    EXPECT_EQ(value.mid(), 2u);
+    EXPECT_EQ(value.high(), 3u);
+    EXPECT_EQ(value.scale(), 28);
+    EXPECT_TRUE(value.isNegative());
+    EXPECT_THROW(Decimal::fromParts(1, 0, 0, 29, false), CalculationFailure);
+}
+
+// a - b + b and a / b x b hold for amounts, whatever their scales.
+TEST(Decimal, amountsComeBack) {
+    std::uint64_t seed = 1;
+    const auto next = [&] { return seed = seed * 6364136223846793005u + 1442695040888963407u, seed >> 20; };
+    for (int i = 0; i < 20000; ++i) {
+        const Decimal a = Decimal::fromParts(static_cast<std::uint32_t>(next()), 0, 0,
+                                             static_cast<int>(next() % 5), next() % 2 != 0);
+        const Decimal b = Decimal::fromParts(static_cast<std::uint32_t>(next()) | 1, 0, 0,
+                                             static_cast<int>(next() % 5), false);
+        ASSERT_TRUE(a - b + b == a);
+        ASSERT_TRUE(a * b / b == a);
+        ASSERT_TRUE(((a / b * b) - a).rounded(10).isZero());
+    }
+}
+
+}  // namespace
+}  // namespace zifferon

@@ -27,6 +27,21 @@ void Program::show() {
     pultform.setFocus(pultform.state.eingabe);
 }
 
+namespace {
+
+// The tape has the focus only while it is paged; any other key and the mouse give it back.
+void wireTapePaging(CalculatorState& s) {
+    s.anzeige.onKeyDown = [&s](int& code) {
+        const bool pages = code == keyCode::up || code == keyCode::down || code == keyCode::pageUp ||
+                           code == keyCode::pageDown;
+        if (!pages) s.calls.focusEntry();
+    };
+    s.anzeige.onKeyPress = [](char16_t& character) { character = 0; };
+    s.anzeige.onClick = s.anzeige.onMouseDown = s.anzeige.onMouseUp = [&s] { s.calls.focusEntry(); };
+}
+
+}  // namespace
+
 void Program::wireCalls() {
     CalculatorState& s = pultform.state;
     s.calls.takeUndoSnapshot = [] {};
@@ -59,6 +74,7 @@ void Program::wireEntry() {
     s.eingabe.onKeyPress = [&s](char16_t& character) { eingabe_KeyPress(s, character); };
     s.eingabe.onKeyUp = [&s](int code) { eingabe_KeyUp(s, code); };
     s.eingabe.onChange = [&s] { s.blockedKeyReleased = false; };
+    s.eingabe.onGotFocus = [&s] { s.anzeige.locked = true; };
 }
 
 void Program::wireFields() {
@@ -67,6 +83,7 @@ void Program::wireFields() {
         s.tapeDirty = true;
         s.anzeige.caretToEnd();
     };
+    wireTapePaging(s);
 }
 
 void Program::wireRounding() {

@@ -1,0 +1,90 @@
+// Any key at any moment, in any order of downs and ups: the program stands, and its state keeps its
+// invariants.
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <sstream>
+
+#include "platform/headless/headless_machine.h"
+#include "platform/user_actions.h"
+#include "shell/program.h"
+#include "shell/send_keys.h"
+
+namespace zifferon {
+namespace {
+
+class RandomKeys : public testing::TestWithParam<unsigned> {
+  protected:
+    RandomKeys() : machine_{headless_, headless_, headless_}, program_(machine_), random_(GetParam()) {
+        program_.show();
+    }
+
+    unsigned below(unsigned limit) { return static_cast<unsigned>(random_() % limit); }
+
+    Key anyKey() {
+        static const Text characters = u"0123456789,.+-*/%=cCvVwWpPdDmMrRtT<> x€\u00DF";
+        static const std::vector<Key> named = keysOfNotation(
+            u"{ENTER}{ENTER}{ENTER}{BS}{DEL}{ESC}{LEFT}{RIGHT}{UP}{DOWN}{HOME}{END}{PGUP}{TAB}%");
+        if (below(5) == 0) return named[below(static_cast<unsigned>(named.size()))];
+        return keyOfCharacter(characters[below(static_cast<unsigned>(characters.size()))]);
+    }
+
+    void act() {
+        switch (below(12)) {
+            case 0:
+                return program_.keys.keyDown(anyKey());
+            case 1:
+                return program_.keys.keyUp(anyKey());
+            case 2:
+                return program_.keys.releaseAll();
+            case 3: {
+                const auto& controls = program_.pultform.controls();
+                Control& control = *controls[below(static_cast<unsigned>(controls.size()))];
+                return below(2) == 0 ? userClick(program_.pultform, program_.keys, control)
+                                     : userDoubleClick(program_.pultform, program_.keys, control);
+            }
+            case 4:
+                return headless_.wait(below(700), program_.pultform, program_.keys);
+            default:
+                return program_.keys.stroke(anyKey());
+        }
+    }
+
+    void checkInvariants() {
+        const CalculatorState& s = program_.pultform.state;
+        const Separators separators = s.separators();
+        if (s.txtop.is(u"=")) {
+            EXPECT_FALSE(s.chainActive.equals(1, separators));
+            EXPECT_TRUE(s.chainTotalled || s.percentDone || s.eingabe.empty());
+        }
+        if (s.chainActive.equals(1, separators) && !s.percentPrompt && !s.differenceActive) {
+            EXPECT_TRUE(readsAsNumber(s.zwischen.text(), separators)) << toUtf8(s.zwischen.text());
+            const Text operators = u"*+-/";
+            const auto pending = s.pendingOpCode.toText(separators);
+            EXPECT_TRUE(pending == u"42" || pending == u"43" || pending == u"45" || pending == u"47")
+                << toUtf8(pending);
+        }
+        EXPECT_LE(s.eingabe.caret(), s.eingabe.text().size());
+        EXPECT_NE(program_.pultform.focus(), nullptr);
+    }
+
+    std::ostringstream log_;
+    HeadlessMachine headless_{log_};
+    Machine machine_;
+    Program program_;
+    std::mt19937 random_;
+};
+
+TEST_P(RandomKeys, leaveTheInvariants) {
+    for (int i = 0; i < 10000; ++i) {
+        act();
+        checkInvariants();
+        if (HasFailure()) FAIL() << "after " << i << " actions";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomKeys, testing::Range(0u, 8u));
+
+}  // namespace
+}  // namespace zifferon

@@ -79,7 +79,7 @@ struct CalculatorState {
     bool idleClearLatch = false;
     double keySound = 0;  // 0, 1 for Enter, 5 for undo
     Colour eingabeForeColor;
-    bool suppressClipboard = false;
+    bool suppressClipboard = true;  // until the first key that reaches the calculation
     Text clipboardText;
     bool tapeDirty = false;
     float messageTicks = 0;

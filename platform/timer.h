@@ -1,4 +1,4 @@
-// A timer of a window. Whoever runs the event loop watches `armings` and ticks it.
+// A timer of a window. Whoever runs the event loop watches `arming` and ticks it.
 #pragma once
 
 #include <functional>
@@ -16,19 +16,22 @@ class Timer {
     // Interval in milliseconds; a timer that runs already starts its interval anew. 0 stops it.
     void start(int milliseconds) {
         interval_ = milliseconds;
-        ++armings_;
+        arming_ = ++lastArming_;
     }
     void stop() { start(0); }
 
     int interval() const { return interval_; }
-    unsigned armings() const { return armings_; }
+
+    // Grows with every start of any timer: tells a new start, and which of two timers was started first.
+    unsigned long arming() const { return arming_; }
 
     Text name;
     std::function<void()> onTick;
 
   private:
     int interval_ = 0;
-    unsigned armings_ = 0;
+    unsigned long arming_ = 0;
+    inline static unsigned long lastArming_ = 0;
 };
 
 }  // namespace zifferon

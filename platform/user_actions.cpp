@@ -4,7 +4,7 @@ namespace zifferon {
 
 namespace {
 
-bool reachable(const Control& control) { return control.visible && control.enabled; }
+bool reachable(const Control& control) { return control.shown() && control.enabled; }
 
 }  // namespace
 

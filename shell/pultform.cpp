@@ -35,6 +35,7 @@ Pultform::Pultform() {
     add(s.errortimer, u"errortimer");
     add(s.messtimer, u"messtimer");
     layOutPultform(*this);
+    s.eingabeForeColor = s.eingabe.foreColour;
 }
 
 }  // namespace zifferon

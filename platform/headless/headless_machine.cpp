@@ -87,6 +87,11 @@ std::string quoted(TextView text) {
     return toUtf8(escaped);
 }
 
+void HeadlessMachine::beginAnew() {
+    due_.clear();
+    clipboard_.clear();
+}
+
 BoxAnswer HeadlessMachine::show(const Box& box) {
     BoxAnswer answer = unasked(box.buttons);
     if (!answers_.empty()) {
@@ -127,16 +132,21 @@ void HeadlessMachine::wait(std::int64_t milliseconds, const Window& window, KeyR
 void HeadlessMachine::followTimers(const Window& window) {
     for (const Timer* timer : window.timers()) {
         Due& due = due_[timer];
-        if (due.armings == timer->armings()) continue;
-        due = {timer->armings(), now_ + timer->interval()};
+        if (due.arming == timer->arming()) continue;
+        due = {timer->arming(), now_ + timer->interval()};
     }
+}
+
+// Of two timers that are due at the same moment the one that was started first ticks first.
+bool HeadlessMachine::before(const Due& a, const Due& b) {
+    return a.at != b.at ? a.at < b.at : a.arming < b.arming;
 }
 
 Timer* HeadlessMachine::nextDue(const Window& window, std::int64_t until) {
     Timer* next = nullptr;
     for (Timer* timer : window.timers()) {
         if (timer->interval() == 0 || due_[timer].at > until) continue;
-        if (next == nullptr || due_[timer].at < due_[next].at) next = timer;
+        if (next == nullptr || before(due_[timer], due_[next])) next = timer;
     }
     return next;
 }

@@ -21,7 +21,8 @@ class HeadlessMachine : public Boxes, public Clipboard, public Sound {
     void queueAnswer(BoxAnswer answer) { answers_.push_back(answer); }
 
     const Text& clipboardText() const { return clipboard_; }
-    void emptyClipboardSilently() { clipboard_.clear(); }
+    // A new program on the same machine: no timer of the former one is due, and the clipboard is empty.
+    void beginAnew();
 
     // Lets virtual time pass; the timers of the window tick in order, each through the key road.
     void wait(std::int64_t milliseconds, const Window& window, KeyRoad& keys);
@@ -33,10 +34,11 @@ class HeadlessMachine : public Boxes, public Clipboard, public Sound {
 
   private:
     struct Due {
-        unsigned armings = 0;
+        unsigned long arming = 0;
         std::int64_t at = 0;
     };
 
+    static bool before(const Due& a, const Due& b);
     void followTimers(const Window& window);
     Timer* nextDue(const Window& window, std::int64_t until);
 

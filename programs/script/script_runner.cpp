@@ -119,7 +119,7 @@ bool ScriptRunner::runLook(const std::string& command, ScriptLine& line) {
 
 void ScriptRunner::fresh(ScriptLine& line) {
     program_ = std::make_unique<Program>(machine_);
-    headless_.emptyClipboardSilently();
+    headless_.beginAnew();
     CalculatorState& s = program_->pultform.state;
     while (!line.atEnd()) {
         const std::string word = line.word();

@@ -7,6 +7,14 @@
 
 namespace zifferon {
 
+TextFollower::TextFollower(TextField& field) : field_(field) { field_.followers_.push_back(this); }
+
+TextFollower::~TextFollower() { std::erase(field_.followers_, this); }
+
+std::size_t TextFollower::takeUnchangedPrefix() {
+    return std::exchange(unchangedPrefix_, field_.text().size());
+}
+
 void TextField::setText(TextView text) {
     caret_ = selection_ = 0;
     if (text == text_) return;
@@ -14,12 +22,13 @@ void TextField::setText(TextView text) {
     changed(0);
 }
 
-void TextField::append(TextView text) {
+void TextField::append(TextView text) { setTextFrom(text_.size(), text); }
+
+void TextField::setTextFrom(std::size_t position, TextView text) {
     caret_ = selection_ = 0;
-    if (text.empty()) return;
-    const std::size_t before = text_.size();
-    text_ += text;
-    changed(before);
+    if (TextView(text_).substr(position) == text) return;
+    text_.replace(position, Text::npos, text);
+    changed(position);
 }
 
 void TextField::select(std::size_t start, std::size_t length) {
@@ -28,6 +37,20 @@ void TextField::select(std::size_t start, std::size_t length) {
 }
 
 void TextField::editByKey(int code) {
+    if (multiLine) {
+        switch (code) {
+            case keyCode::up:
+                return moveByLines(-1);
+            case keyCode::down:
+                return moveByLines(1);
+            case keyCode::pageUp:
+                return moveByLines(-pageLines);
+            case keyCode::pageDown:
+                return moveByLines(pageLines);
+            default:
+                break;
+        }
+    }
     switch (code) {
         case keyCode::left:
         case keyCode::up:
@@ -47,6 +70,21 @@ void TextField::editByKey(int code) {
     }
 }
 
+void TextField::moveByLines(int lines) {
+    const auto lineStart = [this](std::size_t position) {
+        return position == 0 ? 0 : text_.rfind(u'\n', position - 1) + 1;
+    };
+    std::size_t start = lineStart(caret_);
+    const std::size_t column = caret_ - start;
+    for (; lines < 0 && start > 0; ++lines) start = lineStart(start - 1);
+    for (; lines > 0; --lines) {
+        const std::size_t next = text_.find(u'\n', start);
+        if (next == Text::npos) break;
+        start = next + 1;
+    }
+    setCaret(std::min(start + column, text_.find_first_of(u"\r\n", start)));
+}
+
 void TextField::typeCharacter(char16_t character) {
     if (locked) return;
     if (character == keyCode::back) {
@@ -60,8 +98,6 @@ void TextField::typeCharacter(char16_t character) {
     replace(caret_, selection_, TextView(&character, 1));
 }
 
-std::size_t TextField::takeUnchangedPrefix() { return std::exchange(unchangedPrefix_, text_.size()); }
-
 void TextField::replace(std::size_t start, std::size_t length, TextView by) {
     length = std::min(length, text_.size() - start);
     if (length == 0 && by.empty()) return;
@@ -71,7 +107,9 @@ void TextField::replace(std::size_t start, std::size_t length, TextView by) {
 }
 
 void TextField::changed(std::size_t unchangedPrefix) {
-    unchangedPrefix_ = std::min(unchangedPrefix_, unchangedPrefix);
+    for (TextFollower* follower : followers_) {
+        follower->unchangedPrefix_ = std::min(follower->unchangedPrefix_, unchangedPrefix);
+    }
     call(onChange);
 }
 

@@ -3,10 +3,32 @@
 #pragma once
 
 #include <cstddef>
+#include <vector>
 
 #include "platform/control.h"
 
 namespace zifferon {
+
+class TextField;
+
+// Tells how much of the front of a field's text has stood unchanged, for whoever keeps a form of that text of
+// his own and brings up to date only what follows. Must not outlive the field.
+class TextFollower {
+  public:
+    explicit TextFollower(TextField& field);
+    TextFollower(const TextFollower&) = delete;
+    TextFollower& operator=(const TextFollower&) = delete;
+    ~TextFollower();
+
+    // How many leading characters have stood unchanged since the last call; 0 at the first.
+    std::size_t takeUnchangedPrefix();
+
+  private:
+    friend class TextField;
+
+    TextField& field_;
+    std::size_t unchangedPrefix_ = 0;
+};
 
 class TextField : public Control {
   public:
@@ -26,6 +48,10 @@ class TextField : public Control {
     // Adds to the end of the text; costs the same at any length. Otherwise like setText.
     void append(TextView text);
 
+    // Writes what stands behind the first `position` characters, which stay; costs nothing for those.
+    // Otherwise like setText. `position` is at most the length of the text.
+    void setTextFrom(std::size_t position, TextView text);
+
     std::size_t caret() const { return caret_; }
     std::size_t selectionStart() const { return caret_; }
     std::size_t selectionLength() const { return selection_; }
@@ -44,6 +70,7 @@ class TextField : public Control {
     void typeCharacter(char16_t character);
 
     bool multiLine = false;
+    int pageLines = 20;   // of several lines: how far Page Up and Page Down go
     bool locked = false;  // editing keys change nothing; writing by code does
     bool blankIgnoresLimit =
         false;                  // a blank enters a full field too, for the Backspace that is queued for it
@@ -51,18 +78,21 @@ class TextField : public Control {
 
     std::function<void()> onChange;
 
-    // For the one view: how many leading characters have stood unchanged since the last call. With the length
-    // that it knows, the view can append what was appended.
-    std::size_t takeUnchangedPrefix();
+    // What a follower of the one view would tell.
+    std::size_t takeUnchangedPrefix() { return view_.takeUnchangedPrefix(); }
 
   private:
+    friend class TextFollower;
+
+    void moveByLines(int lines);
     void replace(std::size_t start, std::size_t length, TextView by);
     void changed(std::size_t unchangedPrefix);
 
     Text text_;
     std::size_t caret_ = 0;
     std::size_t selection_ = 0;
-    std::size_t unchangedPrefix_ = 0;
+    std::vector<TextFollower*> followers_;
+    TextFollower view_{*this};
 };
 
 }  // namespace zifferon

@@ -1,6 +1,7 @@
 // A window as a value: its controls in drawing order, its timers, its size, and which control has the focus.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "platform/control.h"
@@ -24,6 +25,11 @@ class Window {
     Place place;  // with frame and caption, in twips
     bool visible = false;
     Colour backColour{192, 192, 192};
+
+    bool framed = true;  // whether the system draws a frame and a title around it
+
+    std::function<void()> onActivate;  // it has become the one in use
+    std::function<void()> onDismiss;   // the user closes it by other means than its controls
 
     // Later controls lie above earlier ones.
     void add(Control& control, TextView controlName);

@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
     zifferon::Program program(machine.machine);
     zifferon::FormView view(program.pultform, program.keys);
     program.show();
+    program.beginSnapshots();
     view.refresh();
     return QApplication::exec();
 }

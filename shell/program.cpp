@@ -5,6 +5,7 @@
 #include "core/key_release.h"
 #include "core/rounding.h"
 #include "core/special_rounding.h"
+#include "memory/message_window.h"
 #include "shell/send_keys.h"
 
 namespace zifferon {
@@ -13,18 +14,33 @@ Program::Program(Machine& machine)
     : keys(pultform, [this] { machine_.sound.beep(); }),
       machine_(machine),
       cells_(pultform.state, pultform.memoLabels, pultform, machine),
+      undo_(pultform.state, machine, [this] { showNothingToUndo(); }),
       commands_{pultform.state, pultform, machine.boxes, {}} {
     wireCalls();
     wireCommands();
     wireEntry();
     wireFields();
     wireRounding();
+    wireOptions();
     cells_.wire();
 }
 
 void Program::show() {
     pultform.visible = true;
     pultform.setFocus(pultform.state.eingabe);
+}
+
+void Program::beginSnapshots() {
+    pultform.state.undoActive = true;
+    machine_.files.createFolder("Temp");
+    undo_.emptyFolder();
+    undo_.begin();
+}
+
+void Program::showNothingToUndo() {
+    MessageWindow window(pultform.state, [this] { undo_.restoreCells(); });
+    window.load();
+    machine_.windows.showModal(window);
 }
 
 namespace {
@@ -44,8 +60,8 @@ void wireTapePaging(CalculatorState& s) {
 
 void Program::wireCalls() {
     CalculatorState& s = pultform.state;
-    s.calls.takeUndoSnapshot = [] {};
-    s.calls.writeSnapshotFile = [] {};
+    s.calls.takeUndoSnapshot = [this] { undo_.takeUndoSnapshot(); };
+    s.calls.writeSnapshotFile = [this] { undo_.writeSnapshotFile(); };
     s.calls.copyEntryToClipboard = [this] { cells_.copyEntryToClipboard(); };
     s.calls.restorePendingOperator = [this] { cells_.restorePendingOperator(); };
     s.calls.memoryStoreStage = [this](char16_t key) { cells_.memoryStoreStage(key); };
@@ -61,7 +77,7 @@ void Program::wireCalls() {
 
 void Program::wireCommands() {
     CommandCalls& calls = commands_.calls;
-    calls.applyUndo = [] {};
+    calls.applyUndo = [this] { undo_.applyUndo(); };
     calls.quit = calls.printTape = calls.nextWindowMode = [] {};
     calls.nextTextColours = calls.nextBackColours = calls.standardColours = [] {};
     calls.writeFormatMode = calls.askSeparator = [] {};
@@ -79,11 +95,37 @@ void Program::wireEntry() {
 
 void Program::wireFields() {
     CalculatorState& s = pultform.state;
-    s.anzeige.onChange = [&s] {
-        s.tapeDirty = true;
+    s.anzeige.onChange = [this, &s] {
+        undo_.anzeigeChanged();
         s.anzeige.caretToEnd();
     };
+    s.zwischen.onChange = [this] {
+        undo_.zwischenChanged();
+        publishSubtotal();
+    };
+    s.zurück.onClick = [&s] {
+        s.calls.focusEntry();
+        s.calls.SendKeysEx(u"{right}");
+    };
     wireTapePaging(s);
+}
+
+// With clipcheck ticked each result goes to the clipboard as it stands, but not what a start has restored.
+void Program::publishSubtotal() {
+    CalculatorState& s = pultform.state;
+    if (!s.clipcheck.ticked() || s.suppressClipboard) return;
+    machine_.clipboard.clear();
+    s.clipboardText = s.zwischen.text();
+    machine_.clipboard.setText(s.clipboardText);
+}
+
+void Program::wireOptions() {
+    CalculatorState& s = pultform.state;
+    s.Checksound.onClick = s.Checkob.onClick = [&s] { s.calls.focusEntry(); };
+    s.clipcheck.onClick = [this, &s] {
+        s.calls.focusEntry();
+        if (!s.clipcheck.ticked()) machine_.clipboard.clear();
+    };
 }
 
 void Program::wireRounding() {
@@ -96,6 +138,11 @@ void Program::wireRounding() {
         } catch (const CalculationFailure&) {
             // The entry is no number: there is nothing to round.
         }
+    };
+    pultform.nixspez.onClick = [&s] {
+        s.calls.beep();
+        s.undoCounter -= 1;
+        s.calls.focusEntry();
     };
     s.checkrnd.onClick = [&s] {
         if (s.checkrnd.visible) s.calls.focusEntry();

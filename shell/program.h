@@ -2,7 +2,8 @@
 #pragma once
 
 #include "memory/command_keys.h"
-#include "memory/memory_cells.h"
+#include "memory/memory_panel.h"
+#include "memory/undo.h"
 #include "platform/key_road.h"
 #include "platform/machine.h"
 #include "shell/pultform.h"
@@ -19,15 +20,24 @@ class Program {
     // Shows the main window and gives the entry line the focus.
     void show();
 
+    // An empty folder for the snapshots, and the first of them.
+    void beginSnapshots();
+
   private:
     void wireCalls();
     void wireCommands();
     void wireEntry();
     void wireFields();
     void wireRounding();
+    void wireOptions();
+    void publishSubtotal();
+    void showNothingToUndo();
+    void stepTextColours(int scheme);
+    void stepBackColours(int scheme);
 
     Machine& machine_;
-    MemoryCells cells_;
+    MemoryPanel cells_;
+    Undo undo_;
     CommandDesk commands_;
 };
 

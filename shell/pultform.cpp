@@ -26,6 +26,7 @@ Pultform::Pultform() {
     add(s.rndleft, u"rndleft");
     add(s.rndright, u"rndright");
     add(s.spezrnd, u"spezrnd");
+    add(nixspez, u"nixspez");
     add(s.zurück, u"zurück");
     add(s.clipcheck, u"clipcheck");
     add(s.Checksound, u"Checksound");

@@ -25,6 +25,7 @@ class Pultform : public Window {
                                       Control{ControlKind::label}, Control{ControlKind::label},
                                       Control{ControlKind::label}};  // Label3 to Label7: "M1" to "M5"
     Control Picture1{ControlKind::picture};
+    Control nixspez{ControlKind::button};  // the blind button beside spezrnd
 };
 
 // Gives every control of the window its place, caption, font and colours. A row of the table whose control

@@ -88,7 +88,12 @@ std::vector<Row> desktop() {
          .style = message,
          .visible = false,
          .spoken = u"Meldung"},
-        {.name = u"spezrnd", .place = outside, .style = onKey, .caption = u"& "},
+        {.name = u"spezrnd",
+         .place = outside,
+         .style = onKey,
+         .caption = u"& ",
+         .spoken = u"auf 0,05 runden"},
+        {.name = u"nixspez", .place = outside, .style = onKey},
 
         {.name = u"Picture1",
          .place = {5700, 120, 2295, 2325},

@@ -92,12 +92,15 @@ void HeadlessMachine::beginAnew() {
     clipboard_.clear();
 }
 
+BoxAnswer HeadlessMachine::takeAnswer(BoxAnswer unasked) {
+    if (answers_.empty()) return unasked;
+    const BoxAnswer answer = answers_.front();
+    answers_.pop_front();
+    return answer;
+}
+
 BoxAnswer HeadlessMachine::show(const Box& box) {
-    BoxAnswer answer = unasked(box.buttons);
-    if (!answers_.empty()) {
-        answer = answers_.front();
-        answers_.pop_front();
-    }
+    const BoxAnswer answer = takeAnswer(unasked(box.buttons));
     log_ << "box " << wordOf(box.icon) << ' ' << wordOf(box.buttons) << ' ' << quoted(box.title) << ' '
          << quoted(box.text) << " -> " << wordOf(answer) << '\n';
     return answer;
@@ -114,6 +117,20 @@ void HeadlessMachine::setText(TextView text) {
 }
 
 void HeadlessMachine::beep() { log_ << "beep\n"; }
+
+void HeadlessMachine::showModal(Window& window) {
+    takeAnswer(BoxAnswer::ok);
+    window.visible = true;
+    log_ << "window " << toUtf8(window.name) << " shown\n";
+    if (window.onActivate) window.onActivate();
+    window.onDismiss();
+    log_ << "window " << toUtf8(window.name) << " hidden\n";
+}
+
+void HeadlessMachine::end() {
+    log_ << "end of process\n";
+    throw ProcessEnded();
+}
 
 void HeadlessMachine::wait(std::int64_t milliseconds, const Window& window, KeyRoad& keys) {
     const std::int64_t until = now_ + milliseconds;

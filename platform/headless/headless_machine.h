@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <exception>
 #include <ostream>
 #include <string>
 #include <unordered_map>
@@ -13,7 +14,10 @@
 
 namespace zifferon {
 
-class HeadlessMachine : public Boxes, public Clipboard, public Sound {
+// Thrown through the handlers when the program ends itself.
+class ProcessEnded : public std::exception {};
+
+class HeadlessMachine : public Boxes, public Clipboard, public Sound, public ModalWindows, public Process {
   public:
     explicit HeadlessMachine(std::ostream& log) : log_(log) {}
 
@@ -31,6 +35,8 @@ class HeadlessMachine : public Boxes, public Clipboard, public Sound {
     void clear() override;
     void setText(TextView text) override;
     void beep() override;
+    void showModal(Window& window) override;
+    [[noreturn]] void end() override;
 
   private:
     struct Due {
@@ -40,6 +46,7 @@ class HeadlessMachine : public Boxes, public Clipboard, public Sound {
 
     static bool before(const Due& a, const Due& b);
     void followTimers(const Window& window);
+    BoxAnswer takeAnswer(BoxAnswer unasked);
     Timer* nextDue(const Window& window, std::int64_t until);
 
     std::ostream& log_;

@@ -38,7 +38,7 @@ class ButtonView : public ControlView {
     ButtonView(Control& control, QAbstractButton& button, FormView& form)
         : ControlView(control, button, form), button_(button) {
         button_.setFocusPolicy(Qt::NoFocus);
-        connect(&button_, &QAbstractButton::clicked, [this] { this->form().press(this->control()); });
+        connect(&button_, &QAbstractButton::clicked, this, [this] { this->form().press(this->control()); });
     }
 
   protected:
@@ -110,6 +110,7 @@ class FrameView : public ControlView {
     void refreshContent() override {
         if (!differs(caption_, control().caption)) return;
         static_cast<Panel&>(widget()).setCaption(toQString(control().caption));
+        widget().setAccessibleName(toQString(control().caption));
     }
 
     std::optional<Text> caption_;

@@ -1,20 +1,29 @@
 #include "platform/qt/form_view.h"
 
-#include <QEvent>
+#include <QApplication>
+#include <QCloseEvent>
 #include <algorithm>
+
+#include "platform/qt/tape_access.h"
 
 namespace zifferon {
 
-FormView::FormView(Window& window, KeyRoad& keys)
-    : window_(window),
+FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
+    : QWidget(owner),
+      window_(window),
       keys_(keys),
       timers_(window, [this](const auto& tick) { run(tick); }),
       keyEvents_(
-          *this, window, keys, [this](Control& control) { press(control); }, [this] { refresh(); }),
+          *this, window, keys, [this](Control& control) { press(control); }, refreshAll),
       place_{window.place.left, window.place.top, 0, 0} {
+    offerTapesToScreenReaders();
     setObjectName(toQString(window.name));
+    setWindowFlag(Qt::Dialog, owner != nullptr);
+    setWindowFlag(Qt::FramelessWindowHint, !window.framed);
+    setWindowModality(owner != nullptr ? Qt::ApplicationModal : Qt::NonModal);
     for (Control* control : window.controls()) views_.push_back(makeControlView(*control, *this));
     refresh();
+    if (owner != nullptr) move(owner->frameGeometry().center() - rect().center());
 }
 
 void FormView::refresh() {
@@ -28,7 +37,13 @@ void FormView::refresh() {
 void FormView::run(const std::function<void()>& handler) {
     if (!handler) return;
     keys_.run(handler);
-    refresh();
+    refreshAll();
+}
+
+void FormView::refreshAll() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* const form = dynamic_cast<FormView*>(widget)) form->refresh();
+    }
 }
 
 void FormView::press(Control& control) {
@@ -45,12 +60,33 @@ void FormView::press(Control& control) {
 bool FormView::event(QEvent* event) {
     // A box is about to open in the midst of a handler: what the handler has done so far is seen behind it.
     if (event->type() == QEvent::WindowBlocked) refresh();
+    if (event->type() == QEvent::WindowActivate) run(window_.onActivate);
     return QWidget::event(event);
+}
+
+void FormView::closeEvent(QCloseEvent* event) {
+    if (!window_.onDismiss) return;
+    event->ignore();
+    run(window_.onDismiss);
 }
 
 void FormView::moveEvent(QMoveEvent*) {
     window_.place.left = place_.left = pos().x() * twipsPerPixel;
     window_.place.top = place_.top = pos().y() * twipsPerPixel;
+}
+
+void FormView::closeEvent(QCloseEvent* event) {
+    if (!window_.onDismiss) return QWidget::closeEvent(event);
+    event->ignore();
+    run(window_.onDismiss);
+}
+
+// A window without the system's frame has a thin line of its own around it.
+void FormView::paintEvent(QPaintEvent*) {
+    if (window_.framed) return;
+    QPainter painter(this);
+    painter.setPen(colourOf(window_.backColour).darker(200));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void FormView::refreshFrame() {
@@ -63,7 +99,8 @@ void FormView::refreshFrame() {
     const Place& place = window_.place;
     if (place == place_) return;
     if (place.width != place_.width || place.height != place_.height) {
-        setFixedSize(pixels({0, 0, place.width - frameWidth, place.height - frameHeight}).size());
+        const int frameTwips[] = {window_.framed ? frameWidth : 0, window_.framed ? frameHeight : 0};
+        setFixedSize(pixels({0, 0, place.width - frameTwips[0], place.height - frameTwips[1]}).size());
     }
     if (place.left != place_.left || place.top != place_.top) {
         move(pixels(place).topLeft());

@@ -17,14 +17,18 @@ namespace zifferon {
 
 class FormView : public QWidget {
   public:
-    // Shows all controls that `window` has now; all three live as long as the view.
-    FormView(Window& window, KeyRoad& keys);
+    // Shows all controls that `window` has now; both live as long as the view. A window with an owner lies
+    // over it and takes the keys and the mouse from all others.
+    FormView(Window& window, KeyRoad& keys, QWidget* owner = nullptr);
 
     // Shows what has changed in the window since the last call; without a change it costs little.
     void refresh();
 
     // Runs a handler that is no keystroke, and shows what it did. An empty one does nothing.
     void run(const std::function<void()>& handler);
+
+    // As refresh, for all windows: a handler may write in any of them.
+    static void refreshAll();
 
     // What a click on a button or check box does, by mouse or access key.
     void press(Control& control);
@@ -34,6 +38,10 @@ class FormView : public QWidget {
   private:
     bool event(QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void refreshFrame();
     void refreshFocus();
 

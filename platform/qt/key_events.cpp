@@ -158,8 +158,7 @@ void KeyEvents::keyPressed(const QKeyEvent& event) {
     }
     if (isPaste(event)) return type(QGuiApplication::clipboard()->text());
     if (commandModifiers(event) == Qt::AltModifier && event.key() != Qt::Key_Alt) {
-        const QChar letter = event.key() == Qt::Key_Space ? u' ' : QChar(event.text().left(1).front());
-        if (Control* const control = accessControl(letter)) press_(*control);
+        if (Control* const control = accessControl(event.text())) press_(*control);
         return;
     }
     const auto key = keyOf(event);
@@ -196,12 +195,14 @@ void KeyEvents::type(QString text) {
 }
 
 // The topmost control that is in use and has the letter behind the "&" of its caption.
-Control* KeyEvents::accessControl(QChar letter) const {
+Control* KeyEvents::accessControl(const QString& typed) const {
+    if (typed.size() != 1) return nullptr;
+    const QChar letter = typed.front().toLower();
     const auto answers = [&](const Control* control) {
         const bool pressable = control->kind == ControlKind::button || control->kind == ControlKind::checkBox;
         const std::size_t mark = control->caption.find(u'&');
         return pressable && control->shown() && control->enabled && mark + 1 < control->caption.size() &&
-               QChar(control->caption[mark + 1]).toLower() == letter.toLower();
+               QChar(control->caption[mark + 1]).toLower() == letter;
     };
     const auto& controls = window_.controls();
     const auto found = std::find_if(controls.rbegin(), controls.rend(), answers);

@@ -29,7 +29,7 @@ class KeyEvents : public QObject {
     void keyReleased(const QKeyEvent& event);
     void letGoOf(quint32 scanCode);
     void type(QString text);
-    Control* accessControl(QChar letter) const;
+    Control* accessControl(const QString& typed) const;
 
     QWidget& form_;
     Window& window_;

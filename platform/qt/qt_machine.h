@@ -2,6 +2,8 @@
 #pragma once
 
 #include "platform/machine.h"
+#include "platform/posix_files.h"
+#include "platform/qt/modal_windows.h"
 
 namespace zifferon {
 
@@ -21,13 +23,37 @@ class QtSound : public Sound {
     void beep() override;
 };
 
+class QtProcess : public Process {
+  public:
+    [[noreturn]] void end() override;
+};
+
+class QtModalWindows : public ModalWindows {
+  public:
+    void showModal(Window& window) override;
+};
+
+class QtProcess : public Process {
+  public:
+    [[noreturn]] void end() override;
+};
+
+// The current folder becomes the program folder; throws FileFailure where it cannot be opened.
 class QtMachine {
     QtBoxes boxes_;
     QtClipboard clipboard_;
     QtSound sound_;
+    PosixFiles files_;
+    QtModalWindows windows_;
+    QtProcess process_;
 
   public:
-    Machine machine{boxes_, clipboard_, sound_};
+    Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_};
+};
+QtProcess process_;
+
+public:
+Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_};
 };
 
 }  // namespace zifferon

@@ -28,11 +28,13 @@ class TapeAccess : public QAccessibleWidget, public QAccessibleTextInterface {
         return state;
     }
 
+    using QAccessibleWidget::text;
+
     QString text(int start, int end) const override {
         const auto from = std::size_t(std::max(start, 0));
-        return toQString(TextView(field_.text()).substr(std::min(from, field_.text().size()), std::size_t(end) - from));
+        return toQString(
+            TextView(field_.text()).substr(std::min(from, field_.text().size()), std::size_t(end) - from));
     }
-    using QAccessibleWidget::text;
 
     int characterCount() const override { return int(field_.text().size()); }
     int cursorPosition() const override { return int(field_.caret()); }

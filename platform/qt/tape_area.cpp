@@ -4,14 +4,17 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "platform/qt/control_view.h"
+#include "platform/qt/tape_access.h"
 
 namespace zifferon {
 
 namespace {
 
 constexpr int margin = 7;
+constexpr int bottomMargin = 4;
 constexpr int smallestLineHeight = 16;  // the ruled lines of the print copy stand 16 pixels apart
 
 // The part of a line of the tape that ends at the column's edge: all but the mark behind it, a lone sign such
@@ -32,7 +35,8 @@ QString borrowed(TextView text) {
 
 }  // namespace
 
-TapeArea::TapeArea(TextField& field, QWidget* parent) : QAbstractScrollArea(parent), field_(field) {
+TapeArea::TapeArea(TextField& field, QWidget* parent)
+    : QAbstractScrollArea(parent), field_(field), follower_(field) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setBackgroundRole(QPalette::Base);
@@ -40,23 +44,24 @@ TapeArea::TapeArea(TextField& field, QWidget* parent) : QAbstractScrollArea(pare
 }
 
 void TapeArea::follow() {
-    const std::size_t unchanged = field_.takeUnchangedPrefix();
+    const std::size_t unchanged = follower_.takeUnchangedPrefix();
     const bool changed = unchanged != length_ || field_.text().size() != length_;
     const bool caretMoved = hasFocus() && caret_ != field_.caret();
     if (!changed && !caretMoved) return;
     if (changed) {
-        findLines(std::min(unchanged, length_));
+        const std::size_t before = std::exchange(length_, field_.text().size());
+        findLines(std::min(unchanged, before));
         fitScrollBar();
+        if (unchanged == before) announceTapeText(*this, before, TextView(field_.text()).substr(before));
     }
     caret_ = field_.caret();
-    showLine(hasFocus() ? lineOf(caret_) : starts_.size() - 1);
+    showPosition(hasFocus() ? caret_ : length_);
     viewport()->update();
 }
 
 void TapeArea::findLines(std::size_t unchanged) {
     while (starts_.back() > unchanged) starts_.pop_back();
     const TextView text = field_.text();
-    length_ = text.size();
     for (std::size_t end = text.find(u'\n', unchanged); end != TextView::npos;
          end = text.find(u'\n', end + 1)) {
         starts_.push_back(end + 1);
@@ -68,14 +73,15 @@ void TapeArea::fitScrollBar() {
     verticalScrollBar()->setRange(0, std::max(0, int(starts_.size()) - linesInView()));
 }
 
-void TapeArea::showLine(std::size_t line) {
+void TapeArea::showPosition(std::size_t position) {
+    const int line = int(lineOf(position));
     const int first = verticalScrollBar()->value();
-    verticalScrollBar()->setValue(std::clamp(first, int(line) - linesInView() + 1, int(line)));
+    verticalScrollBar()->setValue(std::clamp(first, line - linesInView() + 1, line));
 }
 
 void TapeArea::resizeEvent(QResizeEvent*) {
     fitScrollBar();
-    showLine(starts_.size() - 1);
+    showPosition(length_);
 }
 
 void TapeArea::changeEvent(QEvent* event) {
@@ -83,7 +89,12 @@ void TapeArea::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) fitScrollBar();
 }
 
+void TapeArea::focusInEvent(QFocusEvent*) { viewport()->update(); }
+
+void TapeArea::focusOutEvent(QFocusEvent*) { viewport()->update(); }
+
 void TapeArea::paintEvent(QPaintEvent* event) {
+    follow();  // a handler that waits for a box may have changed the text
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Text));
     const auto first = std::size_t(std::max(0, verticalScrollBar()->value() - 1));
@@ -92,7 +103,9 @@ void TapeArea::paintEvent(QPaintEvent* event) {
         if (top > event->rect().bottom()) break;
         if (top + lineHeight() > event->rect().top()) paintLine(painter, i, top);
     }
-    if (hasFocus()) paintCaret(painter);
+    if (!hasFocus()) return;
+    const QRect caret = rectAt(caret_);
+    painter.fillRect(caret.x(), caret.y(), 1, caret.height(), palette().color(QPalette::Text));
 }
 
 void TapeArea::paintLine(QPainter& painter, std::size_t index, int top) const {
@@ -109,27 +122,22 @@ void TapeArea::paintLine(QPainter& painter, std::size_t index, int top) const {
     painter.restore();
 }
 
-void TapeArea::paintCaret(QPainter& painter) const {
-    const std::size_t index = lineOf(caret_);
-    const TextView text = line(index);
-    const TextView before = text.substr(0, caret_ - starts_[index]);
-    const int left = leftOf(text) + fontMetrics().horizontalAdvance(borrowed(before));
-    painter.fillRect(left, topOf(index), 1, lineHeight(), palette().color(QPalette::Text));
+std::size_t TapeArea::positionAt(QPoint point) const {
+    const int lines = (point.y() - topOf(0)) / lineHeight();
+    const auto index = std::size_t(std::clamp(lines, 0, int(starts_.size()) - 1));
+    const std::size_t end = starts_[index] + line(index).size();
+    std::size_t position = starts_[index];
+    while (position < end && rectAt(position).center().x() < point.x()) ++position;
+    return position;
 }
 
-std::size_t TapeArea::positionAt(QPoint position) const {
-    const int lines = (position.y() - topOf(0)) / lineHeight();
-    const auto index = std::size_t(std::clamp(lines, 0, int(starts_.size()) - 1));
+QRect TapeArea::rectAt(std::size_t position) const {
+    const std::size_t index = lineOf(position);
     const TextView text = line(index);
-    const int left = leftOf(text);
-    std::size_t characters = 0;
-    while (characters < text.size()) {
-        const int begin = fontMetrics().horizontalAdvance(borrowed(text.substr(0, characters)));
-        const int end = fontMetrics().horizontalAdvance(borrowed(text.substr(0, characters + 1)));
-        if (position.x() < left + (begin + end) / 2) break;
-        ++characters;
-    }
-    return starts_[index] + characters;
+    const std::size_t column = std::min(position - starts_[index], text.size());
+    const auto width = [&](TextView part) { return fontMetrics().horizontalAdvance(borrowed(part)); };
+    const int left = leftOf(text) + width(text.substr(0, column));
+    return {left, topOf(index), width(text.substr(column, 1)), lineHeight()};
 }
 
 TextView TapeArea::line(std::size_t index) const {
@@ -147,7 +155,9 @@ std::size_t TapeArea::lineOf(std::size_t position) const {
 
 int TapeArea::lineHeight() const { return std::max(smallestLineHeight, fontMetrics().height() + 1); }
 
-int TapeArea::linesInView() const { return viewport()->height() / lineHeight(); }
+int TapeArea::linesInView() const {
+    return std::max(1, (viewport()->height() - bottomMargin) / lineHeight());
+}
 
 // A tape comes out of the machine below it: its last line stands at the bottom. Any other text begins at the
 // top.
@@ -155,7 +165,7 @@ int TapeArea::topOf(std::size_t line) const {
     const int first = verticalScrollBar()->value();
     if (field_.alignment != Alignment::right) return (int(line) - first) * lineHeight();
     const int end = std::min(first + linesInView(), int(starts_.size()));
-    return viewport()->height() - (end - int(line)) * lineHeight();
+    return viewport()->height() - bottomMargin - (end - int(line)) * lineHeight();
 }
 
 int TapeArea::leftOf(TextView text) const {

@@ -17,18 +17,27 @@ class TapeArea : public QAbstractScrollArea {
     // Takes over what has changed in the text since the last call.
     void follow();
 
-    std::size_t positionAt(QPoint position) const;
+    const TextField& field() const { return field_; }
+
+    // The number of characters before a point of the viewport.
+    std::size_t positionAt(QPoint point) const;
+
+    // Where the character at `position` stands in the viewport, which may be out of sight.
+    QRect rectAt(std::size_t position) const;
+
+    // Scrolls until the line of the character is seen.
+    void showPosition(std::size_t position);
 
   private:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
     void findLines(std::size_t unchanged);
     void fitScrollBar();
-    void showLine(std::size_t line);
     void paintLine(QPainter& painter, std::size_t line, int top) const;
-    void paintCaret(QPainter& painter) const;
 
     TextView line(std::size_t index) const;
     std::size_t lineOf(std::size_t position) const;
@@ -38,10 +47,11 @@ class TapeArea : public QAbstractScrollArea {
     int leftOf(TextView line) const;
     int columnEdge() const;
 
-    TextField& field_;
+    const TextField& field_;
+    TextFollower follower_;
     std::vector<std::size_t> starts_{0};
     std::size_t length_ = 0;
-    std::size_t caret_ = 0;
+    std::size_t caret_ = 0;  // the caret that was last followed
 };
 
 }  // namespace zifferon

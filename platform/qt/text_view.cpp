@@ -55,6 +55,7 @@ class LineView : public TextView {
     LineView(TextField& field, QLineEdit& line, FormView& form)
         : TextView(field, line, line, form), line_(line) {
         line_.setContextMenuPolicy(Qt::NoContextMenu);
+        line_.setAcceptDrops(false);
         line_.setReadOnly(!field.takesFocus);
     }
 

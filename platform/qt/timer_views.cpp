@@ -14,7 +14,7 @@ TimerViews::TimerViews(const Window& window, const std::function<void(const std:
 
 void TimerViews::refresh() {
     for (View& view : views_) {
-        if (std::exchange(view.armings, view.timer.armings()) == view.timer.armings()) continue;
+        if (std::exchange(view.arming, view.timer.arming()) == view.timer.arming()) continue;
         if (view.timer.interval() > 0) {
             view.clock->start(view.timer.interval());
         } else {

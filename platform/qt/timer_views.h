@@ -22,7 +22,7 @@ class TimerViews {
     struct View {
         const Timer& timer;
         std::unique_ptr<QTimer> clock;
-        unsigned armings;
+        unsigned long arming;
     };
     std::vector<View> views_;
 };

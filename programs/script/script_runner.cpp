@@ -11,7 +11,7 @@
 namespace zifferon {
 
 ScriptRunner::ScriptRunner(std::ostream& out, std::ostream& errors)
-    : out_(out), errors_(errors), headless_(out), machine_{headless_, headless_, headless_} {}
+    : out_(out), errors_(errors), headless_(out), files_(disk_), machine_{headless_, headless_, headless_, files_, headless_, headless_} {}
 
 int ScriptRunner::run(std::istream& script) {
     std::string line;
@@ -21,6 +21,8 @@ int ScriptRunner::run(std::istream& script) {
             if (!line.empty() && line.back() == '\r') line.pop_back();
             runLine(line);
         }
+    } catch (const ProcessEnded&) {
+        // The rest of the script has no program to run on.
     } catch (const MalformedScript& reason) {
         out_.flush();
         errors_ << "line " << lineNumber_ << ": " << reason.what() << '\n';
@@ -42,6 +44,7 @@ void ScriptRunner::runLine(std::string_view text) {
 }
 
 bool ScriptRunner::runStage(const std::string& command, ScriptLine& line) {
+    if (command == "machine") return setMachine(line), true;
     if (command == "fresh") return fresh(line), true;
     if (command == "answer") return answer(line), true;
     if (command == "decimal") {
@@ -117,6 +120,13 @@ bool ScriptRunner::runLook(const std::string& command, ScriptLine& line) {
     return false;
 }
 
+void ScriptRunner::setMachine(ScriptLine& line) {
+    const std::string key = line.word();
+    if (key == "writable") return files_.writable(line.word() != "no");
+    if (key == "diskfull") return files_.diskFull(line.word() == "yes");
+    throw MalformedScript("unknown property of the machine: " + key);
+}
+
 void ScriptRunner::fresh(ScriptLine& line) {
     program_ = std::make_unique<Program>(machine_);
     headless_.beginAnew();
@@ -134,7 +144,9 @@ void ScriptRunner::fresh(ScriptLine& line) {
         }
     }
     applyFormatMode(s);
+    files_.replace("quicksave.zfr", "");
     program_->show();
+    program_->beginSnapshots();
 }
 
 void ScriptRunner::answer(ScriptLine& line) {

@@ -6,7 +6,9 @@
 #include <ostream>
 #include <string_view>
 
+#include "platform/headless/faulty_files.h"
 #include "platform/headless/headless_machine.h"
+#include "platform/posix_files.h"
 #include "programs/script/script_line.h"
 #include "shell/program.h"
 
@@ -28,6 +30,7 @@ class ScriptRunner {
     bool runMouse(const std::string& command, ScriptLine& line);
     bool runLook(const std::string& command, ScriptLine& line);
 
+    void setMachine(ScriptLine& line);
     void fresh(ScriptLine& line);
     void answer(ScriptLine& line);
     void type(TextView text);
@@ -43,6 +46,8 @@ class ScriptRunner {
     std::ostream& out_;
     std::ostream& errors_;
     HeadlessMachine headless_;
+    PosixFiles disk_;
+    FaultyFiles files_;
     Machine machine_;
     std::unique_ptr<Program> program_;
     std::size_t lineNumber_ = 0;

@@ -1,4 +1,4 @@
-#include "memory/memory_cells.h"
+#include "memory/memory_panel.h"
 
 #include "core/failure.h"
 #include "platform/key.h"
@@ -18,14 +18,14 @@ bool wholeTextSelected(const TextField& field) { return field.selectionLength() 
 
 }  // namespace
 
-void MemoryCells::wire() {
+void MemoryPanel::wire() {
     for (std::size_t i = 0; i < s.memo.size(); ++i) wireCell(i);
     s.eingabe.onDoubleClick = [this] { entryDoubleClick(); };
     s.zwischen.onDoubleClick = [this] { subtotalDoubleClick(); };
     s.messtimer.onTick = [this] { messtimerTick(); };
 }
 
-void MemoryCells::wireCell(std::size_t index) {
+void MemoryPanel::wireCell(std::size_t index) {
     TextField& cell = s.memo[index];
     cell.onGotFocus = [this, index] { cellGotFocus(index); };
     cell.onLostFocus = [this, index] { cellLostFocus(index); };
@@ -42,7 +42,7 @@ void MemoryCells::wireCell(std::size_t index) {
     };
 }
 
-void MemoryCells::memoryStoreStage(char16_t key) {
+void MemoryPanel::memoryStoreStage(char16_t key) {
     if (isCellDigit(key)) {
         s.memo[indexOf(key)].setText(s.zwischen.text());
         if (!s.memoryConfirmOff) confirmStore(indexOf(key));
@@ -50,7 +50,7 @@ void MemoryCells::memoryStoreStage(char16_t key) {
     restorePendingOperator();
 }
 
-void MemoryCells::memoryRecallStage(char16_t key) {
+void MemoryPanel::memoryRecallStage(char16_t key) {
     if (s.differenceActive) s.zwischen.alignment = Alignment::left;
     s.eingabe.maxLength = 0;
     if (isCellDigit(key)) {
@@ -62,7 +62,7 @@ void MemoryCells::memoryRecallStage(char16_t key) {
     restorePendingOperator();
 }
 
-void MemoryCells::restorePendingOperator() {
+void MemoryPanel::restorePendingOperator() {
     const Separators separators = s.separators();
     if (s.pendingOpCode.isEmptyText()) return s.txtop.setText(u"");
     try {
@@ -82,14 +82,14 @@ void MemoryCells::restorePendingOperator() {
     }
 }
 
-void MemoryCells::copyEntryToClipboard() {
+void MemoryPanel::copyEntryToClipboard() {
     if (!s.clipcheck.ticked()) return;
     machine_.clipboard.clear();
     s.clipboardText = s.eingabe.text();
     machine_.clipboard.setText(s.clipboardText);
 }
 
-void MemoryCells::confirmStore(std::size_t index) {
+void MemoryPanel::confirmStore(std::size_t index) {
     Text message(s.inLanguage(u"Wert in Speicherplatz M", u"The value has been stored in memory M"));
     message += static_cast<char16_t>(u'1' + index);
     message += s.inLanguage(u" übertragen", u"");
@@ -100,7 +100,7 @@ void MemoryCells::confirmStore(std::size_t index) {
     s.messtimer.start(messageInterval);
 }
 
-void MemoryCells::messtimerTick() {
+void MemoryPanel::messtimerTick() {
     s.calls.placeTexterror();
     s.messageTicks += 1;
     if (s.messageTicks < 2) return;
@@ -110,7 +110,7 @@ void MemoryCells::messtimerTick() {
     s.messtimer.stop();
 }
 
-void MemoryCells::storeFirstFree(const Text& value, TextView germanWarning) {
+void MemoryPanel::storeFirstFree(const Text& value, TextView germanWarning) {
     for (std::size_t i = 0; i < s.memo.size(); ++i) {
         if (!s.memo[i].empty()) continue;
         s.memo[i].setText(value);
@@ -125,7 +125,7 @@ void MemoryCells::storeFirstFree(const Text& value, TextView germanWarning) {
          .english = s.languageEnglish});
 }
 
-void MemoryCells::entryDoubleClick() {
+void MemoryPanel::entryDoubleClick() {
     s.calls.placeTexterror();
     if (s.eingabe.empty()) return;
     const auto value = tryParseDecimal(s.eingabe.text(), s.separators());
@@ -134,7 +134,7 @@ void MemoryCells::entryDoubleClick() {
                    u"Speicherung fehlgeschlagen. Sämtliche Speicherplätze sind belegt.   ");
 }
 
-void MemoryCells::subtotalDoubleClick() {
+void MemoryPanel::subtotalDoubleClick() {
     s.calls.placeTexterror();
     for (const TextView word : {u"Wert", u"value", u"Error", u"Diff"}) {
         if (s.zwischen.contains(word)) return;
@@ -149,7 +149,7 @@ void MemoryCells::subtotalDoubleClick() {
                    u"Speicherung fehlgeschlagen. Sämtliche Speicherplätze sind belegt!   ");
 }
 
-void MemoryCells::cellDoubleClick(TextField& cell) {
+void MemoryPanel::cellDoubleClick(TextField& cell) {
     if (s.txtop.is(u"=")) return;
     s.eingabe.maxLength = 0;
     s.eingabe.setText(cell.text());
@@ -159,19 +159,19 @@ void MemoryCells::cellDoubleClick(TextField& cell) {
     copyEntryToClipboard();
 }
 
-void MemoryCells::cellGotFocus(std::size_t index) {
+void MemoryPanel::cellGotFocus(std::size_t index) {
     TextField& cell = s.memo[index];
     labels_[index].foreColour = red;
     cell.select(0, cell.text().size());
     cell.locked = !cell.empty();
 }
 
-void MemoryCells::cellLostFocus(std::size_t index) {
+void MemoryPanel::cellLostFocus(std::size_t index) {
     labels_[index].foreColour = black;
     s.memo[index].setCaret(0);
 }
 
-void MemoryCells::cellKeyDown(TextField& cell, int& code) {
+void MemoryPanel::cellKeyDown(TextField& cell, int& code) {
     if (code == keyCode::up) s.calls.SendKeysEx(u"{end}");
     if (s.txtop.is(u"=") && code == keyCode::enter) return;
     if (code == keyCode::f1) s.calls.openHelp();
@@ -181,7 +181,7 @@ void MemoryCells::cellKeyDown(TextField& cell, int& code) {
     cellEdit(cell, code);
 }
 
-void MemoryCells::cellTransfer(TextField& cell) {
+void MemoryPanel::cellTransfer(TextField& cell) {
     s.eingabe.maxLength = 50;
     s.eingabe.setText(cell.text());
     s.eingabe.caretToEnd();
@@ -190,7 +190,7 @@ void MemoryCells::cellTransfer(TextField& cell) {
     copyEntryToClipboard();
 }
 
-void MemoryCells::cellEdit(TextField& cell, int& code) {
+void MemoryPanel::cellEdit(TextField& cell, int& code) {
     cell.locked = false;
     if (code == keyCode::right) focusEntry();
     if (code == keyCode::down || code == keyCode::up) code = keyCode::right;
@@ -205,7 +205,7 @@ void MemoryCells::cellEdit(TextField& cell, int& code) {
     }
 }
 
-void MemoryCells::cellKeyPress(TextField& cell, char16_t& key) {
+void MemoryPanel::cellKeyPress(TextField& cell, char16_t& key) {
     if (key == 27) return;
     if (key == u' ') {
         key = 0;
@@ -230,7 +230,7 @@ void MemoryCells::cellKeyPress(TextField& cell, char16_t& key) {
     cell.caretToEnd();
 }
 
-void MemoryCells::cellKeyUp(TextField& cell, int code) {
+void MemoryPanel::cellKeyUp(TextField& cell, int code) {
     if (code == keyCode::space || code == keyCode::escape || cell.empty()) return;
     if (code == keyCode::enter && cell.locked) return;
     if (isNumeric(cell.text()) && !cell.contains(u"+")) return;
@@ -240,16 +240,16 @@ void MemoryCells::cellKeyUp(TextField& cell, int code) {
     s.calls.SendKeysEx(u"{enter}");
 }
 
-void MemoryCells::cellChange(TextField& cell) {
+void MemoryPanel::cellChange(TextField& cell) {
     if (!isNumeric(cell.text())) refuse(cell);
 }
 
-void MemoryCells::refuse(TextField& cell) {
+void MemoryPanel::refuse(TextField& cell) {
     cell.setText(u"");
     focusEntry();
 }
 
 // What the subtotal line shows is accepted, of any length; a lone sign and a text with a "+" are not.
-bool MemoryCells::isNumeric(TextView text) const { return readsAsNumber(text, s.separators()); }
+bool MemoryPanel::isNumeric(TextView text) const { return readsAsNumber(text, s.separators()); }
 
 }  // namespace zifferon

@@ -9,10 +9,10 @@
 
 namespace zifferon {
 
-class MemoryCells {
+class MemoryPanel {
   public:
     // `labels` are the labels M1 to M5 beside the cells.
-    MemoryCells(CalculatorState& state, std::array<Control, 5>& labels, Window& window, Machine& machine)
+    MemoryPanel(CalculatorState& state, std::array<Control, 5>& labels, Window& window, Machine& machine)
         : s(state), labels_(labels), window_(window), machine_(machine) {}
 
     // Hangs the handlers on the cells, their labels, and the double clicks of the entry and the subtotal

@@ -1,0 +1,164 @@
+#include "memory/undo.h"
+
+#include <utility>
+
+namespace zifferon {
+
+namespace {
+
+constexpr const char* folder = "Temp";
+
+}  // namespace
+
+Undo::Undo(CalculatorState& state, Machine& machine, std::function<void()> showNothingToUndo)
+    : s(state), machine_(machine), showNothingToUndo_(std::move(showNothingToUndo)), record_(state) {}
+
+std::string Undo::fileOf(int number) {
+    return std::string(folder) + "/temp" + std::to_string(number) + ".tmp";
+}
+
+void Undo::emptyFolder() {
+    try {
+        machine_.files.removeAll(folder, "*");
+    } catch (const FileFailure&) {
+        // What is left there is overwritten by its number, or never read.
+    }
+}
+
+void Undo::begin() {
+    s.undoCounter = 0;
+    writeSnapshotFile();
+}
+
+void Undo::takeUndoSnapshot() {
+    if (std::exchange(s.undoStepPending, false)) s.undoCounter += 1;
+    if (!s.tapeEmptied && !s.specialSnapshotLatch && s.undoActive) {
+        s.undoCounter += 1;
+        writeSnapshotFile();
+    }
+    s.specialSnapshotLatch = false;
+}
+
+void Undo::writeSnapshotFile() {
+    gatherRecord(record_);
+    gatherSwitches(record_);
+    try {
+        writeRecord(machine_.files, fileOf(s.undoCounter), record_);
+    } catch (const FileFailure&) {
+        machine_.boxes.show(
+            {.icon = BoxIcon::critical,
+             .title = u"Zifferon PRO 5.0",
+             .text = Text(s.inLanguage(u"Zu wenig Arbeitsspeicher zur Auslagerung der temporären   \r\n"
+                                       u"Daten vorhanden. Löschen Sie nicht benötigte Dateien von   \r\n"
+                                       u"Ihrer Festplatte. Zifferon PRO wird beendet!",
+                                       u"Your harddrive is out of memory! Zifferon will be shut down!   ")),
+             .english = s.languageEnglish});
+        machine_.process.end();
+    }
+}
+
+void Undo::applyUndo() {
+    s.keySound = 5;
+    s.blockedKeyReleased = false;
+    if (!s.txtop.is(u"=") && !s.eingabe.empty()) {
+        s.eingabe.setText(u"");
+        return s.calls.focusEntry();
+    }
+    if (!s.undoActive) {
+        showInactive();
+        return s.calls.focusEntry();
+    }
+    s.eingabe.enabled = true;
+    s.calls.focusEntry();
+    s.percentDone = s.roundingDone = s.rootDone = s.roundingDoneSpecial = false;
+    if (s.eingabe.empty() && s.undoCounter == 0) showNothingToUndo_();
+    if (s.undoCounter != 0) return stepBack();
+    if (s.anzeige.empty()) {
+        s.anzeige.setText(u"");
+        s.superdruck.setText(u"");
+        clearEntryAndSign();
+        return s.zwischen.setText(u"0");
+    }
+    clearEntryAndSign();
+}
+
+void Undo::clearEntryAndSign() {
+    s.eingabe.setText(u"");
+    s.txtop.setText(u"");
+}
+
+// The record is applied only when it has been read whole; a step that cannot be read is not taken.
+void Undo::stepBack() {
+    s.undoCounter -= 1;
+    try {
+        readRecord(machine_.files, fileOf(s.undoCounter), record_);
+    } catch (const FileFailure&) {
+        return showUnreadable();
+    } catch (const RecordFailure&) {
+        return showUnreadable();
+    }
+    applyCells(record_);
+    applyFields(record_);
+    applyVariables(record_);
+    s.calls.focusEntry();
+    s.eingabe.locked = false;
+    try {
+        machine_.files.remove(fileOf(s.undoCounter + 1));
+    } catch (const FileFailure&) {
+        // Above all a number that had no file.
+    }
+}
+
+void Undo::showUnreadable() {
+    s.undoCounter += 1;
+    machine_.boxes.show(
+        {.icon = BoxIcon::warning,
+         .title = u"Undo",
+         .text = Text(s.inLanguage(u"Der vorige Arbeitsschritt konnte nicht gelesen werden.   \r\n"
+                                   u"Die Rechnung bleibt, wie sie ist.   ",
+                                   u"The previous step could not be read.   \r\n"
+                                   u"The calculation stays as it is.   ")),
+         .english = s.languageEnglish});
+    s.calls.focusEntry();
+}
+
+void Undo::showInactive() {
+    machine_.boxes.show(
+        {.icon = BoxIcon::information,
+         .title = u"Undo",
+         .text = Text(s.inLanguage(
+             u"Die Undo-Funktion ist derzeit inaktiv! Um sie aktiv zu setzten, legen Sie   \r\n"
+             u"im Zifferon-Verzeichnis eine Datei mit dem Namen <temp.dat> an und   \r\n"
+             u"starten Sie Zifferon neu.",
+             u"The undo-function is inactive at the moment! To reconfigure it, please create   \r\n"
+             u"the file <temp.dat> in the Zifferon-folder and restart the program.   ")),
+         .english = s.languageEnglish});
+}
+
+// A wiped tape makes a step without a file; an Undo that ends in one with its sound does not.
+void Undo::anzeigeChanged() {
+    s.tapeDirty = true;
+    s.tapeEmptied = false;
+    if (!s.anzeige.empty() || (s.Checksound.ticked() && s.keySound == 5)) return;
+    s.tapeEmptied = true;
+    s.undoStepPending = true;
+}
+
+// An Undo that lands on a number without a file goes on by itself.
+void Undo::zwischenChanged() {
+    if (!s.zwischen.empty() || !s.undoRepeatArmed) return;
+    s.calls.SendKeysEx(u"{right}");
+    s.undoRepeatArmed = false;
+}
+
+void Undo::restoreCells() {
+    try {
+        zifferon::restoreCells(machine_.files, fileOf(0), s);
+    } catch (const FileFailure&) {
+        // Without snapshot 0 the cells stay.
+    } catch (const RecordFailure&) {
+        // A damaged one leaves them too.
+    }
+}
+
+}  // namespace zifferon

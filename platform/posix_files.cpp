@@ -1,0 +1,232 @@
+#include "platform/posix_files.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <fnmatch.h>
+#include <sys/stat.h>
+#include <sys/uio.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <memory>
+#include <optional>
+#include <utility>
+
+namespace zifferon {
+
+namespace {
+
+constexpr off_t largestFile = off_t{1} << 30;       // more is no file of this program
+constexpr mode_t newFile = 0666, newFolder = 0777;  // less what the user's mask takes away
+
+FileTrouble troubleOf(int error) {
+    switch (error) {
+        case ENOENT:
+        case ENOTDIR:
+            return FileTrouble::missing;
+        case EACCES:
+        case EPERM:
+        case EROFS:
+        case ETXTBSY:
+        case EISDIR:
+            return FileTrouble::access;
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return FileTrouble::noSpace;
+        default:
+            return FileTrouble::other;
+    }
+}
+
+[[noreturn]] void fail() { throw FileFailure(troubleOf(errno)); }
+
+// Repeats a call that a signal has interrupted; what else goes wrong is a failure.
+template <class Call>
+auto checked(Call call) {
+    for (;;) {
+        const auto result = call();
+        if (result >= 0) return result;
+        if (errno != EINTR) fail();
+    }
+}
+
+std::string_view trimmed(std::string_view name) {
+    const std::size_t first = name.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return name.substr(first, name.find_last_not_of(' ') - first + 1);
+}
+
+using Parts = std::array<iovec, 8>;  // so many pieces are written at once
+
+// Fills `parts` from the front with what of the pieces lies in [begin, end) of the file; returns how many.
+int cut(std::span<const std::string_view> pieces, std::size_t begin, std::size_t end, Parts& parts) {
+    std::size_t count = 0;
+    std::size_t start = 0;
+    for (const std::string_view piece : pieces) {
+        const std::size_t from = std::max(begin, start);
+        const std::size_t to = std::min(end, start + piece.size());
+        if (from < to) parts[count++] = {const_cast<char*>(piece.data()) + (from - start), to - from};
+        if (count == parts.size()) break;
+        start += piece.size();
+    }
+    return static_cast<int>(count);
+}
+
+void writeRange(const Descriptor& file, std::span<const std::string_view> pieces, std::size_t begin,
+                std::size_t end) {
+    while (begin < end) {
+        Parts parts;
+        const int count = cut(pieces, begin, end, parts);
+        const auto at = static_cast<off_t>(begin);
+        begin += static_cast<std::size_t>(
+            checked([&] { return ::pwritev(file.number(), parts.data(), count, at); }));
+    }
+}
+
+struct FolderCloser {
+    void operator()(DIR* folder) const { ::closedir(folder); }
+};
+using Folder = std::unique_ptr<DIR, FolderCloser>;
+
+Folder openFolder(int descriptor) {
+    Descriptor owned(descriptor);
+    Folder folder(::fdopendir(owned.number()));
+    if (!folder) fail();
+    owned.release();
+    return folder;
+}
+
+// The names in a folder that match the pattern, without the hidden ones.
+std::vector<std::string> matchingNames(DIR& folder, const std::string& pattern) {
+    std::vector<std::string> names;
+    while (const dirent* entry = ::readdir(&folder)) {
+        if (::fnmatch(pattern.c_str(), entry->d_name, FNM_PERIOD) == 0) names.emplace_back(entry->d_name);
+    }
+    return names;
+}
+
+bool isNormalFile(int folder, const std::string& name) {
+    struct stat status;
+    return ::fstatat(folder, name.c_str(), &status, 0) == 0 && S_ISREG(status.st_mode);
+}
+
+}  // namespace
+
+Descriptor::~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+}
+
+int Descriptor::release() { return std::exchange(number_, -1); }
+
+void Descriptor::close() {
+    if (::close(release()) != 0 && errno != EINTR) fail();  // interrupted, it is closed all the same
+}
+
+PosixFiles::PosixFiles(const std::string& programFolder)
+    : folder_(checked([&] { return ::open(programFolder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); })) {}
+
+bool PosixFiles::FileExists(std::string_view name) {
+    const std::string file(trimmed(name));
+    const std::size_t bare = file.rfind('/') + 1;
+    return bare < file.size() && file[bare] != '.' && isNormalFile(folder_.number(), file);
+}
+
+std::string PosixFiles::read(const std::string& name) { return readAll(Descriptor(open(name, O_RDONLY))); }
+
+std::string PosixFiles::readOrCreate(const std::string& name) {
+    try {
+        return read(name);
+    } catch (const FileFailure& failure) {
+        if (failure.trouble() != FileTrouble::missing) throw;
+    }
+    return readAll(Descriptor(open(name, O_RDWR | O_CREAT)));
+}
+
+void PosixFiles::write(const std::string& name, std::span<const std::string_view> pieces) {
+    Descriptor file(open(name, O_WRONLY | O_CREAT));
+    std::size_t size = 0;
+    for (const std::string_view piece : pieces) size += piece.size();
+    // Only growth takes room on the disk. It comes first, so that the old content is still whole when it
+    // fails.
+    const off_t oldEnd = checked([&] { return ::lseek(file.number(), 0, SEEK_END); });
+    const auto oldSize = static_cast<std::size_t>(oldEnd);
+    try {
+        writeRange(file, pieces, oldSize, size);
+    } catch (const FileFailure&) {
+        [[maybe_unused]] const int leftLonger = ::ftruncate(file.number(), oldEnd);
+        throw;
+    }
+    writeRange(file, pieces, 0, std::min(size, oldSize));
+    file.close();
+}
+
+void PosixFiles::replace(const std::string& name, std::string_view content) {
+    Descriptor file(open(name, O_WRONLY | O_CREAT | O_TRUNC));
+    writeRange(file, std::span(&content, 1), 0, content.size());
+    file.close();
+}
+
+void PosixFiles::remove(const std::string& name) {
+    checked([&] { return ::unlinkat(folder_.number(), name.c_str(), 0); });
+}
+
+void PosixFiles::removeAll(const std::string& folder, const std::string& pattern) {
+    if (folder == ".." || folder.find('/') != std::string::npos) throw FileFailure(FileTrouble::access);
+    const Folder opened = openFolder(open(folder, O_RDONLY | O_DIRECTORY | O_NOFOLLOW));
+    std::optional<FileTrouble> first;
+    for (const std::string& name : matchingNames(*opened, pattern)) {
+        if (::unlinkat(::dirfd(opened.get()), name.c_str(), 0) != 0 && !first) first = troubleOf(errno);
+    }
+    if (first) throw FileFailure(*first);
+}
+
+void PosixFiles::createFolder(const std::string& name) {
+    if (::mkdirat(folder_.number(), name.c_str(), newFolder) == 0) return;
+    const int error = errno;
+    struct stat status;
+    if (::fstatat(folder_.number(), name.c_str(), &status, 0) == 0 && S_ISDIR(status.st_mode)) return;
+    throw FileFailure(error == EEXIST ? FileTrouble::access : troubleOf(error));
+}
+
+std::chrono::system_clock::time_point PosixFiles::lastModified(const std::string& name) {
+    struct stat status;
+    checked([&] { return ::fstatat(folder_.number(), name.c_str(), &status, 0); });
+    const auto sinceEpoch =
+        std::chrono::seconds(status.st_mtim.tv_sec) + std::chrono::nanoseconds(status.st_mtim.tv_nsec);
+    return std::chrono::system_clock::time_point(sinceEpoch);
+}
+
+std::vector<std::string> PosixFiles::list(const std::string& folder, const std::string& pattern) {
+    const Folder opened = openFolder(open(folder, O_RDONLY | O_DIRECTORY));
+    std::vector<std::string> names = matchingNames(*opened, pattern);
+    std::erase_if(names, [&](const std::string& name) { return !isNormalFile(::dirfd(opened.get()), name); });
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+// Not blocking, so that a pipe in the place of a file is a failure and no waiting for ever.
+int PosixFiles::open(const std::string& name, int flags) {
+    return checked(
+        [&] { return ::openat(folder_.number(), name.c_str(), flags | O_CLOEXEC | O_NONBLOCK, newFile); });
+}
+
+std::string PosixFiles::readAll(const Descriptor& file) {
+    struct stat status;
+    checked([&] { return ::fstat(file.number(), &status); });
+    if (!S_ISREG(status.st_mode) || status.st_size > largestFile) throw FileFailure(FileTrouble::other);
+    std::string content(static_cast<std::size_t>(status.st_size), '\0');
+    std::size_t size = 0;
+    while (size < content.size()) {
+        const auto more = static_cast<std::size_t>(
+            checked([&] { return ::read(file.number(), content.data() + size, content.size() - size); }));
+        if (more == 0) break;
+        size += more;
+    }
+    content.resize(size);
+    return content;
+}
+
+}  // namespace zifferon

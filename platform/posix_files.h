@@ -1,0 +1,54 @@
+// Files on a POSIX system.
+#pragma once
+
+#include "platform/files.h"
+
+namespace zifferon {
+
+// A file descriptor that is closed with its owner.
+class Descriptor {
+  public:
+    explicit Descriptor(int number) : number_(number) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor();
+
+    int number() const { return number_; }
+
+    // Hands the descriptor to the caller.
+    int release();
+
+    // Closes it now and throws FileFailure for what only the closing tells.
+    void close();
+
+  private:
+    int number_;
+};
+
+class PosixFiles : public Files {
+  public:
+    // Holds on to the program folder itself, whatever it is renamed to and wherever the current folder goes.
+    // Throws FileFailure where it cannot be opened.
+    explicit PosixFiles(const std::string& programFolder = ".");
+
+    using Files::write;
+
+    bool FileExists(std::string_view name) override;
+    std::string read(const std::string& name) override;
+    std::string readOrCreate(const std::string& name) override;
+    void write(const std::string& name, std::span<const std::string_view> pieces) override;
+    void replace(const std::string& name, std::string_view content) override;
+    void remove(const std::string& name) override;
+    void removeAll(const std::string& folder, const std::string& pattern) override;
+    void createFolder(const std::string& name) override;
+    std::chrono::system_clock::time_point lastModified(const std::string& name) override;
+    std::vector<std::string> list(const std::string& folder, const std::string& pattern) override;
+
+  private:
+    int open(const std::string& name, int flags);
+    std::string readAll(const Descriptor& file);
+
+    Descriptor folder_;
+};
+
+}  // namespace zifferon

@@ -1,0 +1,161 @@
+#include "storage/calculation_record.h"
+
+#include <utility>
+
+#include "platform/windows1252.h"
+
+namespace zifferon {
+
+namespace {
+
+// Hands each field to `visit`, in the order of the file.
+template <class Record, class Visit>
+void visitFields(Record& record, Visit&& visit) {
+    for (auto& cell : record.M) visit(cell);
+    visit(record.tape);
+    visit(record.subtotal);
+    visit(record.operatorSign);
+    visit(record.entry);
+    visit(record.printCopy);
+    visit(record.recordAlwaysOnTop);
+    visit(record.savedChainTotalled);
+    visit(record.savedOperand);
+    visit(record.savedChainActive);
+    visit(record.savedPendingOpCode);
+    visit(record.savedTapeClearArmed);
+    visit(record.recordSound);
+    visit(record.recordClipboard);
+    visit(record.recordRoundingTick);
+    visit(record.recordRoundingCaption);
+}
+
+// Appends each field to the bytes; of a long text only what stands in front of its characters, and those are
+// noted with their place.
+struct FieldWriter {
+    std::string& bytes;
+    std::size_t* longTextAt;
+    std::string_view* longText;
+
+    void operator()(const CalcValue& value) { appendTagged(bytes, value); }
+    void operator()(float value) { append(bytes, value); }
+    void operator()(double value) { append(bytes, value); }
+    void operator()(const EncodedText& text) {
+        appendTextHead(bytes, text.bytes().size());
+        *longTextAt++ = bytes.size();
+        *longText++ = text.bytes();
+    }
+};
+
+// Throws where a field cannot be decoded.
+struct FieldChecker {
+    RecordReader reader;
+
+    void operator()(const CalcValue&) { reader.tagged(); }
+    void operator()(const EncodedText&) { reader.tagged(); }
+    void operator()(float value) { reader.read(value); }
+    void operator()(double value) { reader.read(value); }
+};
+
+struct FieldReader {
+    RecordReader reader;
+    Separators separators;
+
+    void operator()(CalcValue& value) { value = reader.tagged().value(); }
+    void operator()(float& value) { reader.read(value); }
+    void operator()(double& value) { reader.read(value); }
+    void operator()(EncodedText& text) {
+        const TaggedBytes found = reader.tagged();
+        if (found.isText()) return text.setBytes(found.content);
+        std::string bytes;
+        appendWindows1252(found.value().toText(separators), bytes);
+        text.setBytes(bytes);
+    }
+};
+
+float switchOf(bool on) { return on ? 1.0F : 0.0F; }
+
+void setCells(CalculatorState& state, const MemoryCells& cells) {
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        state.memo[i].setText(cells[i].toText(state.separators()));
+    }
+}
+
+}  // namespace
+
+EncodedRecord::EncodedRecord(const CalculationRecord& record) {
+    short_.reserve(256);  // most often enough
+    visitFields(record, FieldWriter{short_, longTextAt_.data(), longText_.data()});
+}
+
+std::array<std::string_view, 5> EncodedRecord::pieces() const {
+    const std::string_view all = short_;
+    const auto [tapeAt, printCopyAt] = longTextAt_;
+    return {all.substr(0, tapeAt), longText_[0], all.substr(tapeAt, printCopyAt - tapeAt), longText_[1],
+            all.substr(printCopyAt)};
+}
+
+void gatherRecord(CalculationRecord& record) {
+    const CalculatorState& s = record.state;
+    for (std::size_t i = 0; i < record.M.size(); ++i) record.M[i] = s.memo[i].text();
+    record.tape.takeFromField();
+    record.subtotal = s.zwischen.text();
+    record.operatorSign = s.txtop.text();
+    record.entry = s.eingabe.text();
+    record.printCopy.takeFromField();
+    record.savedChainTotalled = switchOf(s.chainTotalled);
+    record.savedOperand = s.operand;
+    record.savedChainActive = s.chainActive;
+    record.savedPendingOpCode = s.pendingOpCode;
+    record.savedTapeClearArmed = switchOf(s.tapeClearArmed);
+}
+
+void gatherSwitches(CalculationRecord& record) {
+    const CalculatorState& s = record.state;
+    record.recordAlwaysOnTop = switchOf(s.Checkob.ticked());
+    record.recordSound = switchOf(s.Checksound.ticked());
+    record.recordClipboard = switchOf(s.clipcheck.ticked());
+}
+
+void decodeRecord(std::string_view bytes, CalculationRecord& record) {
+    visitFields(std::as_const(record), FieldChecker{RecordReader(bytes)});
+    visitFields(record, FieldReader{RecordReader(bytes), record.state.separators()});
+}
+
+void writeRecord(Files& files, const std::string& path, const CalculationRecord& record) {
+    files.write(path, EncodedRecord(record).pieces());
+}
+
+void readRecord(Files& files, const std::string& path, CalculationRecord& record) {
+    decodeRecord(files.readOrCreate(path), record);
+}
+
+void applyCells(const CalculationRecord& record) { setCells(record.state, record.M); }
+
+void applyFields(CalculationRecord& record) {
+    CalculatorState& s = record.state;
+    record.tape.writeToField();
+    s.zwischen.setText(record.subtotal.toText(s.separators()));
+    s.txtop.setText(record.operatorSign.toText(s.separators()));
+    s.eingabe.setText(record.entry.toText(s.separators()));
+    record.printCopy.writeToField();
+    s.eingabe.caretToEnd();
+}
+
+void applyVariables(const CalculationRecord& record) {
+    CalculatorState& s = record.state;
+    s.chainTotalled = record.savedChainTotalled != 0;
+    s.operand = record.savedOperand;
+    s.chainActive = record.savedChainActive;
+    s.pendingOpCode = record.savedPendingOpCode;
+    s.tapeClearArmed = record.savedTapeClearArmed != 0;
+}
+
+void restoreCells(Files& files, const std::string& path, CalculatorState& state) {
+    const std::string bytes = files.readOrCreate(path);
+    RecordReader reader(bytes);
+    MemoryCells cells;
+    for (CalcValue& cell : cells) cell = reader.tagged().value();
+    setCells(state, cells);
+}
+
+}  // namespace zifferon

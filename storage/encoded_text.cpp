@@ -1,0 +1,48 @@
+#include "storage/encoded_text.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "platform/windows1252.h"
+
+namespace zifferon {
+
+namespace {
+
+std::size_t commonPrefix(std::string_view a, std::string_view b) {
+    constexpr std::size_t stride = 4096;  // compared at the speed of the memory
+    const std::size_t size = std::min(a.size(), b.size());
+    std::size_t same = 0;
+    while (same + stride <= size && std::memcmp(a.data() + same, b.data() + same, stride) == 0)
+        same += stride;
+    const auto rest = std::mismatch(a.begin() + static_cast<std::ptrdiff_t>(same),
+                                    a.begin() + static_cast<std::ptrdiff_t>(size),
+                                    b.begin() + static_cast<std::ptrdiff_t>(same));
+    return static_cast<std::size_t>(rest.first - a.begin());
+}
+
+}  // namespace
+
+void EncodedText::takeFromField() {
+    findAgreement();
+    bytes_.resize(agreed_);
+    appendWindows1252(TextView(field_.text()).substr(agreed_), bytes_);
+    agreed_ = bytes_.size();
+}
+
+void EncodedText::setBytes(std::string_view bytes) {
+    const std::size_t same = commonPrefix(bytes_, bytes);
+    bytes_.replace(same, std::string::npos, bytes.substr(same));
+    agreed_ = std::min(agreed_, same);
+}
+
+void EncodedText::writeToField() {
+    findAgreement();
+    Text rest;
+    appendFromWindows1252(std::string_view(bytes_).substr(agreed_), rest);
+    field_.setTextFrom(agreed_, rest);
+}
+
+void EncodedText::findAgreement() { agreed_ = std::min(agreed_, follower_.takeUnchangedPrefix()); }
+
+}  // namespace zifferon

@@ -1,0 +1,72 @@
+// Message boxes, answered by the keyboard.
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "tests/window/window_fixture.h"
+
+namespace zifferon::test {
+
+namespace {
+
+class BoxesTest : public WindowTest {
+  protected:
+    // Opens the box from a handler, lets `person` act once it has the keyboard, and gives the answer.
+    BoxAnswer answer(const Box& box, const std::function<void(QWidget&)>& person) {
+        bool acted = false;
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, [&] {
+            QWidget* const shown = QApplication::activeModalWidget();
+            if (acted || shown == nullptr || !shown->isActiveWindow()) return;
+            acted = true;
+            person(*shown);
+        });
+        watch.start(10);
+        BoxAnswer result = BoxAnswer::ok;
+        view.run([&] {
+            state().zwischen.setText(u"before the box");
+            result = machine.machine.boxes.show(box);
+        });
+        return result;
+    }
+
+    std::function<void(QWidget&)> pressing(int key) {
+        return [this, key](QWidget&) { hands.stroke({key}); };
+    }
+};
+
+TEST_F(BoxesTest, AnswersComeFromTheKeyboard) {
+    Box box{BoxIcon::question, BoxButtons::yesNo, u"Zifferon PRO 5.0", u"Frage?"};
+    EXPECT_EQ(answer(box, pressing(keys::enter)), BoxAnswer::yes);
+    EXPECT_EQ(answer(box, pressing(keys::escape)), BoxAnswer::no);
+    box.noIsDefault = true;
+    EXPECT_EQ(answer(box, pressing(keys::enter)), BoxAnswer::no);
+    box.buttons = BoxButtons::yesNoCancel;
+    EXPECT_EQ(answer(box, pressing(keys::escape)), BoxAnswer::cancel);
+    EXPECT_EQ(answer(box, [](QWidget& shown) { shown.close(); }), BoxAnswer::cancel);
+    box.buttons = BoxButtons::ok;
+    EXPECT_EQ(answer(box, pressing(keys::escape)), BoxAnswer::ok);
+}
+
+TEST_F(BoxesTest, TextIsPlainAndWhatWasDoneIsSeenBehindIt) {
+    const Box box{BoxIcon::none, BoxButtons::yesNo, u"Titel", u"<b>a</b>   ", true};
+    answer(box, [this](QWidget& shown) {
+        bool plain = false;
+        for (const QLabel* label : shown.findChildren<QLabel*>()) {
+            plain |= label->text() == u"<b>a</b>   " && label->textFormat() == Qt::PlainText;
+        }
+        EXPECT_TRUE(plain);
+        QStringList buttons;
+        for (const QPushButton* button : shown.findChildren<QPushButton*>()) buttons += button->text();
+        EXPECT_EQ(buttons, QStringList({QStringLiteral("&Yes"), QStringLiteral("&No")}));
+        EXPECT_EQ(view.findChild<QLineEdit*>(QStringLiteral("zwischen"))->text(),
+                  QStringLiteral("before the box"));
+        shown.close();
+    });
+}
+
+}  // namespace
+
+}  // namespace zifferon::test

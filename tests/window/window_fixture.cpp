@@ -1,0 +1,46 @@
+#include "tests/window/window_fixture.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <chrono>
+#include <thread>
+
+namespace zifferon::test {
+
+bool comesTrue(const std::function<bool()>& condition, int milliseconds) {
+    QElapsedTimer clock;
+    clock.start();
+    while (!condition() && clock.elapsed() < milliseconds) {
+        QCoreApplication::processEvents();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return condition();
+}
+
+void letPass(int milliseconds) {
+    comesTrue([] { return false; }, milliseconds);
+}
+
+void WindowTest::SetUp() {
+    program.show();
+    view.refresh();
+    ASSERT_TRUE(comesTrue([&] { return view.isActiveWindow(); }));
+    hands.setNumLock(true);
+}
+
+void WindowTest::pressWith(int modifier, int key) {
+    hands.down(modifier);
+    hands.stroke({key});
+    hands.up(modifier);
+}
+
+QPoint WindowTest::onScreen(const Control& control, QPoint offset) {
+    return view.mapToGlobal(pixels(control.place).topLeft() + offset);
+}
+
+void WindowTest::click(const Control& control, QPoint offset, int button) {
+    hands.moveMouse(onScreen(control, offset));
+    hands.click(button);
+}
+
+}  // namespace zifferon::test

@@ -1,0 +1,43 @@
+// A person at the real window: keys and mouse come from the screen, and what counts is what the calculator
+// then holds.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "platform/qt/form_view.h"
+#include "platform/qt/qt_machine.h"
+#include "shell/program.h"
+#include "tests/window/real_input.h"
+
+namespace zifferon::test {
+
+// Lets events pass until it holds; false when the time is over before.
+bool comesTrue(const std::function<bool()>& condition, int milliseconds = 10000);
+
+void letPass(int milliseconds);
+
+class WindowTest : public ::testing::Test {
+  protected:
+    void SetUp() override;
+
+    CalculatorState& state() { return program.pultform.state; }
+    std::string entry() { return toUtf8(state().eingabe.text()); }
+    std::string tape() { return toUtf8(state().anzeige.text()); }
+
+    // A key of the keyboard with another held down.
+    void pressWith(int modifier, int key);
+
+    // The point of the screen at an offset in pixels from the left and top of a control.
+    QPoint onScreen(const Control& control, QPoint offset);
+    void click(const Control& control, QPoint offset, int button = 1);
+
+    QtMachine machine;
+    Program program{machine.machine};
+    FormView view{program.pultform, program.keys};
+    RealInput hands;
+};
+
+}  // namespace zifferon::test

@@ -20,10 +20,8 @@ FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
     setObjectName(toQString(window.name));
     setWindowFlag(Qt::Dialog, owner != nullptr);
     setWindowFlag(Qt::FramelessWindowHint, !window.framed);
-    setWindowModality(owner != nullptr ? Qt::ApplicationModal : Qt::NonModal);
     for (Control* control : window.controls()) views_.push_back(makeControlView(*control, *this));
     refresh();
-    if (owner != nullptr) move(owner->frameGeometry().center() - rect().center());
 }
 
 void FormView::refresh() {
@@ -62,12 +60,6 @@ bool FormView::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) refresh();
     if (event->type() == QEvent::WindowActivate) run(window_.onActivate);
     return QWidget::event(event);
-}
-
-void FormView::closeEvent(QCloseEvent* event) {
-    if (!window_.onDismiss) return;
-    event->ignore();
-    run(window_.onDismiss);
 }
 
 void FormView::moveEvent(QMoveEvent*) {

@@ -17,8 +17,8 @@ namespace zifferon {
 
 class FormView : public QWidget {
   public:
-    // Shows all controls that `window` has now; both live as long as the view. A window with an owner lies
-    // over it and takes the keys and the mouse from all others.
+    // Shows all controls that `window` has now; it and `keys` live as long as the view. A window with an
+    // owner stays above it.
     FormView(Window& window, KeyRoad& keys, QWidget* owner = nullptr);
 
     // Shows what has changed in the window since the last call; without a change it costs little.
@@ -38,8 +38,6 @@ class FormView : public QWidget {
   private:
     bool event(QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void refreshFrame();

@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <cstdlib>
 
-#include "platform/qt/form_view.h"
+#include "platform/qt/control_view.h"
 
 namespace zifferon {
 
@@ -62,18 +62,6 @@ void QtClipboard::clear() { QGuiApplication::clipboard()->clear(); }
 void QtClipboard::setText(TextView text) { QGuiApplication::clipboard()->setText(toQString(text)); }
 
 void QtSound::beep() { QApplication::beep(); }
-
-// The stack of nested handlers is abandoned, not unwound.
-void QtProcess::end() { std::_Exit(0); }
-
-void QtModalWindows::showModal(Window& window) {
-    KeyRoad keys(window, [] { QApplication::beep(); });
-    FormView view(window, keys, QApplication::activeWindow());
-    view.setWindowModality(Qt::ApplicationModal);
-    window.visible = true;
-    view.refresh();
-    while (window.visible) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-}
 
 // No destructor runs: handlers are on their way, and what they hold is nobody's any more.
 void QtProcess::end() { std::_Exit(EXIT_SUCCESS); }

@@ -28,32 +28,17 @@ class QtProcess : public Process {
     [[noreturn]] void end() override;
 };
 
-class QtModalWindows : public ModalWindows {
-  public:
-    void showModal(Window& window) override;
-};
-
-class QtProcess : public Process {
-  public:
-    [[noreturn]] void end() override;
-};
-
 // The current folder becomes the program folder; throws FileFailure where it cannot be opened.
 class QtMachine {
     QtBoxes boxes_;
     QtClipboard clipboard_;
     QtSound sound_;
     PosixFiles files_;
-    QtModalWindows windows_;
+    QtModalWindows windows_{sound_};
     QtProcess process_;
 
   public:
     Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_};
-};
-QtProcess process_;
-
-public:
-Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_};
 };
 
 }  // namespace zifferon

@@ -10,7 +10,8 @@ static _Decimal128 load(const struct Decimal128* value) {
 
 static void store(struct Decimal128* value, _Decimal128 number) { memcpy(value, &number, sizeof number); }
 
-static const _Decimal128 powers[] = {1.DL, 10.DL, 100.DL, 1000.DL, 10000.DL, 100000.DL};
+// Exact in decimal; a product is far cheaper than a quotient.
+static const _Decimal128 units[] = {1.DL, 0.1DL, 0.01DL};
 
 void decimal128Parse(const char* const* texts, struct Decimal128* values, size_t count) {
     for (size_t i = 0; i < count; ++i) {
@@ -25,7 +26,7 @@ void decimal128Parse(const char* const* texts, struct Decimal128* values, size_t
             digits = digits * 10 + (unsigned long long)(*next - '0');
             decimals += (size_t)behindPoint;
         }
-        store(&values[i], (_Decimal128)digits / powers[decimals]);
+        store(&values[i], (_Decimal128)digits * units[decimals]);
     }
 }
 

@@ -1,6 +1,6 @@
 // The compiler's _Decimal128 on arrays of operands, for comparison. C++ compilers do not have the type, so it
-// is used from C, sixteen bytes a value; parse and format, which the C library lacks, take the shortest way
-// there is.
+// is used from C, sixteen bytes a value. Neither the C library nor the compiler's reads or writes such a
+// number as text, so parse and format count in a machine word and use the type only for its part of the way.
 #pragma once
 
 #include <stddef.h>
@@ -13,7 +13,7 @@ struct Decimal128 {
     unsigned char bytes[16];
 };
 
-// Digits with a point, at most 18 of them, no sign.
+// At most 18 digits, two of them behind the point, no sign.
 void decimal128Parse(const char* const* texts, struct Decimal128* values, size_t count);
 
 // With two decimals into buffers of 32 characters each; magnitudes below 10^16.

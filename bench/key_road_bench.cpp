@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "platform/headless/headless_machine.h"
+#include "platform/posix_files.h"
 #include "shell/program.h"
 
 namespace {
@@ -15,7 +16,9 @@ using namespace zifferon;
 class Bench {
   public:
     explicit Bench(std::int64_t lines)
-        : headless_(log_), machine_{headless_, headless_, headless_}, program_(machine_) {
+        : headless_(log_),
+          machine_{headless_, headless_, headless_, files_, headless_, headless_},
+          program_(machine_) {
         program_.show();
         state().undoActive = false;
         Text tape, print;
@@ -35,6 +38,7 @@ class Bench {
   private:
     std::ostringstream log_;
     HeadlessMachine headless_;
+    PosixFiles files_;
     Machine machine_;
     Program program_;
 };

@@ -1,5 +1,6 @@
 // What Undo costs: a snapshot beside a bare open, write and close of the same bytes, and the way back, at
-// tapes of so many lines. Each turn adds a line, as each snapshot of a running calculation does.
+// tapes of so many lines. Each turn brings a line or takes it away, as the steps of a calculation and their
+// undoing do.
 
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
@@ -14,10 +15,6 @@
 namespace {
 
 using namespace zifferon;
-
-constexpr int filesInTurn = 4;
-
-std::string snapshotName(int step) { return "temp" + std::to_string(step % filesInTurn) + ".tmp"; }
 
 // An empty folder that goes with its owner; the program's folder meanwhile.
 class Folder {
@@ -53,31 +50,30 @@ class Bench {
         state_.operand = Decimal::fromParts(1250, 0, 0, 2, false);
         state_.chainActive = 1;
         state_.pendingOpCode = 43;
-        for (int step = 0; step < filesInTurn; ++step) snapshot(step);
+        snapshot("temp0.tmp");
     }
 
-    void addLine() {
-        state_.anzeige.append(tapeLine);
-        state_.superdruck.append(printLine);
+    // Brings a line in an odd turn and takes it away in an even one.
+    void step(int turn) {
+        change(state_.anzeige, turn, u"\r\n1.234,56 +   ");
+        change(state_.superdruck, turn,
+               u"\r\n                                                    1.234,56 +");
     }
 
-    void dropLine() {
-        drop(state_.anzeige, tapeLine.size());
-        drop(state_.superdruck, printLine.size());
-    }
-
-    void snapshot(int step) {
+    void snapshot(const std::string& name) {
         gatherRecord(record_);
         gatherSwitches(record_);
-        writeRecord(files_, snapshotName(step), record_);
+        writeRecord(files_, name, record_);
     }
 
-    void back(int step) {
-        readRecord(files_, snapshotName(step), record_);
+    void back(const std::string& name) {
+        readRecord(files_, name, record_);
         applyCells(record_);
         applyFields(record_);
         applyVariables(record_);
     }
+
+    void removeSnapshots() { files_.removeAll(".", "temp*.tmp"); }
 
     std::string bytes() {
         std::string all;
@@ -85,15 +81,16 @@ class Bench {
         return all;
     }
 
-    std::string path(int step) const { return folder_.path() + '/' + snapshotName(step); }
+    std::string path() const { return folder_.path(); }
 
   private:
     static constexpr TextView tapeLine = u"\r\n1.234,56 +   ";
     static constexpr TextView printLine =
         u"\r\n                                                    1.234,56 +";
 
-    static void drop(TextField& field, std::size_t characters) {
-        field.setTextFrom(field.text().size() - characters, u"");
+    static void change(TextField& field, int turn, TextView line) {
+        if (turn % 2 == 1) return field.append(line);
+        field.setTextFrom(field.text().size() - line.size(), u"");
     }
 
     Folder folder_;
@@ -102,53 +99,49 @@ class Bench {
     CalculationRecord record_;
 };
 
-// Before each turn a line comes or goes, so that the tape keeps its length and every snapshot has something
-// new.
-class Turns {
-  public:
-    explicit Turns(Bench& bench) : bench_(bench) {}
+std::string snapshotName(int turn) { return "temp" + std::to_string(turn) + ".tmp"; }
 
-    int next() {
-        if (++turn_ % 2 == 0) {
-            bench_.addLine();
-        } else {
-            bench_.dropLine();
-        }
-        return turn_;
+// Every turn has a new file, as every step of a calculation has; they are cleared away outside of the
+// measured time, before they fill the machine's memory.
+template <class Write>
+void measureWriting(benchmark::State& run, Bench& bench, Write write) {
+    const int turnsBetween = 1 + static_cast<int>((std::int64_t{64} << 20) / (run.range(0) * 80));
+    int turn = 0;
+    for (auto _ : run) {
+        bench.step(++turn);
+        write(snapshotName(turn));
+        if (turn % turnsBetween != 0) continue;
+        run.PauseTiming();
+        bench.removeSnapshots();
+        run.ResumeTiming();
     }
-
-  private:
-    Bench& bench_;
-    int turn_ = 0;
-};
+}
 
 void bareWrite(benchmark::State& run) {
     Bench bench(run.range(0));
-    Turns turns(bench);
     const std::string bytes = bench.bytes();
-    for (auto _ : run) {
-        const int file = ::open(bench.path(turns.next()).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    const std::string folder = bench.path() + '/';
+    measureWriting(run, bench, [&](const std::string& name) {
+        const int file = ::open((folder + name).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
         if (::write(file, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) std::abort();
         ::close(file);
-    }
+    });
     run.SetBytesProcessed(run.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 
 void snapshot(benchmark::State& run) {
     Bench bench(run.range(0));
-    Turns turns(bench);
-    for (auto _ : run) bench.snapshot(turns.next());
+    measureWriting(run, bench, [&](const std::string& name) { bench.snapshot(name); });
 }
 
-// Reading a snapshot that lacks the last line of the tape, and bringing it to the calculator.
+// Reading a snapshot and bringing it to the calculator, in turn one that has the last line and one that lacks
+// it.
 void back(benchmark::State& run) {
     Bench bench(run.range(0));
-    for (auto _ : run) {
-        run.PauseTiming();
-        bench.addLine();
-        run.ResumeTiming();
-        bench.back(0);
-    }
+    bench.step(1);
+    bench.snapshot("temp1.tmp");
+    int turn = 0;
+    for (auto _ : run) bench.back(snapshotName(turn++ % 2));
 }
 
 }  // namespace

@@ -13,12 +13,12 @@ function(zifferon_room name)
   target_link_libraries(zifferon_${name} PUBLIC ${ARGN} PRIVATE zifferon_warnings)
 endfunction()
 
-# zifferon_room_tests(core): the program core_tests of tests/core/*.cpp, and one CTest test for each of its
-# cases.
+# zifferon_room_tests(shell zifferon_headless): the program shell_tests of tests/shell/*.cpp with the room and
+# the libraries named after it, and one CTest test for each of its cases.
 function(zifferon_room_tests name)
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${name}/*.cpp)
   add_executable(${name}_tests ${sources})
-  target_link_libraries(${name}_tests PRIVATE zifferon_${name} zifferon_warnings GTest::gtest_main)
+  target_link_libraries(${name}_tests PRIVATE zifferon_${name} ${ARGN} zifferon_warnings GTest::gtest_main)
   target_compile_definitions(${name}_tests PRIVATE ZIFFERON_TESTS_DIR="${PROJECT_SOURCE_DIR}/tests")
   gtest_discover_tests(${name}_tests TEST_PREFIX ${name}/ DISCOVERY_MODE PRE_TEST)
 endfunction()

@@ -14,6 +14,8 @@ template <class... Cases>
 struct Overloaded : Cases... {
     using Cases::operator()...;
 };
+template <class... Cases>
+Overloaded(Cases...) -> Overloaded<Cases...>;
 
 std::weak_ordering compareDoubles(double a, double b) {
     return a < b   ? std::weak_ordering::less

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
 
@@ -13,6 +14,12 @@ namespace zifferon {
 namespace {
 
 constexpr UInt128 limit96 = UInt128{1} << 96;
+
+// The processor divides 64 bits far faster than a routine divides 128.
+UInt128 quotientOf(UInt128 dividend, UInt128 divisor) {
+    if ((dividend | divisor) >> 64 != 0) return dividend / divisor;
+    return static_cast<std::uint64_t>(dividend) / static_cast<std::uint64_t>(divisor);
+}
 
 // What stands behind the last kept digit, in units of that digit.
 enum class Rest { none, belowHalf, half, aboveHalf };
@@ -53,19 +60,19 @@ Decimal fit(const WideInteger& number, int scale, bool negative, Rest rest) {
 }
 
 // Takes trailing zeros off while the scale allows it.
-Decimal stripped(const Decimal& value) {
-    UInt128 magnitude = value.magnitude();
-    int scale = magnitude == 0 ? 0 : value.scale();
+Decimal stripped(UInt128 magnitude, int scale, bool negative) {
+    if (magnitude == 0) return Decimal::fromMagnitude(0, 0, negative);
     for (const int digits : {16, 8, 4, 2, 1}) {
-        while (scale >= digits) {
-            const std::uint64_t power = powersOfTen[static_cast<std::size_t>(digits)];
-            const UInt128 quotient = magnitude / power;
+        const auto power = powersOfTen[static_cast<std::size_t>(digits)];
+        // A number with n zeros at its end divides by 2^n: a test that spares most divisions.
+        while (scale >= digits && (magnitude & ((1u << digits) - 1)) == 0) {
+            const UInt128 quotient = quotientOf(magnitude, power);
             if (quotient * power != magnitude) break;
             magnitude = quotient;
             scale -= digits;
         }
     }
-    return Decimal::fromMagnitude(magnitude, scale, value.isNegative());
+    return Decimal::fromMagnitude(magnitude, scale, negative);
 }
 
 // The magnitude with `digits` more zeros, where it surely stays below 2^127; else 0 for a number that is not
@@ -94,6 +101,75 @@ Decimal addWide(const Decimal& a, const Decimal& b) {
     right.subtract(left);
     return fit(right, scale, b.isNegative(), Rest::none);
 }
+
+// A division on paper, which brings down several decimals at a time.
+class LongDivision {
+  public:
+    LongDivision(UInt128 dividend, UInt128 divisor, int scale)
+        : divisor_(divisor),
+          quotient_(quotientOf(dividend, divisor)),
+          remainder_(dividend - quotient_ * divisor),
+          scale_(scale) {}
+
+    bool isWhole() const { return remainder_ == 0 && scale_ >= 0; }
+    UInt128 quotient() const { return quotient_; }
+
+    // All decimals that fit, rounded half to even.
+    Decimal result(bool negative) {
+        // The first step is short, as most quotients that end have few decimals. A remainder of 96 bits
+        // leaves room for nine digits, one of 64 bits for nineteen.
+        for (int step = 9; !isWhole() && extend(step);) step = divisor_ >> 64 == 0 ? 19 : 9;
+        if (scale_ < 0) throw CalculationFailure(FailureKind::overflow);
+        const UInt128 twice = remainder_ * 2;
+        if (twice > divisor_ || (twice == divisor_ && (quotient_ & 1) != 0)) roundUp();
+        return stripped(quotient_, scale_, negative);
+    }
+
+  private:
+    // Brings down up to `step` decimals; false when there is no room for even one.
+    bool extend(int step) {
+        const int wanted = remainder_ == 0 ? -scale_ : Decimal::maxScale - scale_;
+        for (int digits = std::min({step, wanted, roomFor(quotient_)}); digits > 0; --digits) {
+            const UInt128 power = powersOfTen[static_cast<std::size_t>(digits)];
+            const UInt128 dividend = remainder_ * power;
+            const UInt128 decimals = quotientOf(dividend, divisor_);
+            const UInt128 longer = quotient_ * power + decimals;
+            if (longer >= limit96) continue;
+            quotient_ = longer;
+            remainder_ = dividend - decimals * divisor_;
+            scale_ += digits;
+            return true;
+        }
+        return false;
+    }
+
+    // How many zeros, up to nineteen, the number takes within 96 bits.
+    static int roomFor(UInt128 number) {
+        static constexpr auto largest = [] {
+            std::array<UInt128, powersOfTen.size()> numbers{};
+            for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i] = (limit96 - 1) / powersOfTen[i];
+            return numbers;
+        }();
+        const auto high = static_cast<std::uint64_t>(number >> 64);
+        const int freeBits = high != 0 ? std::countl_zero(high) - 32
+                                       : 32 + std::countl_zero(static_cast<std::uint64_t>(number));
+        const int room = std::min(19, (freeBits + 1) * 30103 / 100000);
+        return number > largest[static_cast<std::size_t>(room)] ? room - 1 : room;
+    }
+
+    void roundUp() {
+        if (++quotient_ < limit96) return;
+        // One decimal fewer. What stands behind it is at least 55 hundredths, so it rounds up again.
+        if (scale_ == 0) throw CalculationFailure(FailureKind::overflow);
+        quotient_ = limit96 / 10 + 1;
+        --scale_;
+    }
+
+    UInt128 divisor_;
+    UInt128 quotient_;
+    UInt128 remainder_;
+    int scale_;
+};
 
 }  // namespace
 
@@ -133,22 +209,10 @@ Decimal operator*(const Decimal& a, const Decimal& b) {
 Decimal operator/(const Decimal& a, const Decimal& b) {
     if (b.isZero()) throw CalculationFailure(FailureKind::divisionByZero);
     const bool negative = a.isNegative() != b.isNegative();
-    const UInt128 dividend = a.magnitude();
-    const UInt128 divisor = b.magnitude();
-    if (a.scale_ >= b.scale_) {
-        const UInt128 whole = a.high_ == 0 && b.high_ == 0 ? UInt128{a.low_ / b.low_} : dividend / divisor;
-        if (whole * divisor == dividend) {
-            return Decimal::fromMagnitude(whole, a.scale_ - b.scale_, negative);
-        }
-    }
-    WideInteger quotient(dividend);
-    quotient.multiplyByPowerOfTen(Decimal::maxScale - a.scale_ + b.scale_);
-    const UInt128 remainder = quotient.divide(divisor);
-    const Rest rest = remainder == 0             ? Rest::none
-                      : remainder * 2 < divisor  ? Rest::belowHalf
-                      : remainder * 2 == divisor ? Rest::half
-                                                 : Rest::aboveHalf;
-    return stripped(fit(quotient, Decimal::maxScale, negative, rest));
+    const int scale = a.scale() - b.scale();
+    LongDivision division(a.magnitude(), b.magnitude(), scale);
+    if (division.isWhole()) return Decimal::fromMagnitude(division.quotient(), scale, negative);
+    return division.result(negative);
 }
 
 Decimal Decimal::operator-() const {
@@ -218,7 +282,8 @@ Decimal Decimal::fromDouble(double value) {
         number.multiplyByPowerOfTen(-scale);
         scale = 0;
     }
-    return stripped(fit(number, scale, negative, Rest::none));
+    const Decimal rounded = fit(number, scale, negative, Rest::none);
+    return stripped(rounded.magnitude(), rounded.scale(), negative);
 }
 
 }  // namespace zifferon

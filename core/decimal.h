@@ -66,7 +66,7 @@ class Decimal {
 
     // By value: 1.0 equals 1.00, and -0 equals 0.
     friend std::weak_ordering operator<=>(const Decimal& a, const Decimal& b);
-    friend bool operator==(const Decimal& a, const Decimal& b) { return (a <=> b) == 0; }
+    friend bool operator==(const Decimal& a, const Decimal& b) { return std::is_eq(a <=> b); }
 
   private:
     std::uint64_t low_ = 0;

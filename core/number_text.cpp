@@ -106,7 +106,6 @@ struct Digits {
     char at(int position) const {
         return position >= 0 && position < count ? digits[static_cast<std::size_t>(position)] : '0';
     }
-    bool isZero() const { return count == 0; }
 
     void strip() {
         while (count > 0 && digits[static_cast<std::size_t>(count - 1)] == '0') --count;
@@ -181,7 +180,8 @@ Text textOf(const Digits& digits, Separators separators, int minDecimals, bool g
     const int whole = std::max(digits.whole, 1);
     const int decimals = std::max(minDecimals, digits.count - digits.whole);
     Text text;
-    text.reserve(static_cast<std::size_t>(2 + whole + whole / 3 + decimals));
+    const auto length = static_cast<std::size_t>(whole) + static_cast<std::size_t>(decimals);
+    text.reserve(2 + length + length / 3);
     if (digits.negative) text += u'-';
     // With fewer than one digit before the point the digits begin behind it.
     int position = std::min(digits.whole, 1) - 1;
@@ -260,10 +260,14 @@ Text maskText(double value, Separators separators, int maxDecimals) {
     return maskOf(digitsOf(value), separators, maxDecimals);
 }
 
-double Round(double value, std::int16_t digits) {
+Text fixedText(double value, int digits, Separators separators) {
     Digits rounded = digitsOf(value);
     rounded.round(digits);
-    return parseDouble(textOf(rounded, pointStyle, digits, false), pointStyle);
+    return textOf(rounded, separators, digits, true);
+}
+
+double Round(double value, std::int16_t digits) {
+    return parseDouble(fixedText(value, digits, pointStyle), pointStyle);
 }
 
 Text scaledText(const Decimal& value) {

@@ -41,8 +41,12 @@ Text generalText(double value, Separators separators);
 Text maskText(const Decimal& value, Separators separators, int maxDecimals);
 Text maskText(double value, Separators separators, int maxDecimals);
 
-// To exactly `digits` decimals, half away from zero on the 15 significant digits, and back: 2.545 to 2
-// is 2.55. A negative that rounds to nothing is 0.
+// Grouped, with exactly `digits` decimals (from 0), half away from zero on the 15 significant digits: 2.545
+// to 2 is 2.55. Texts of a double throw overflow for one that is infinite or no number.
+Text fixedText(double value, int digits, Separators separators);
+
+// That text read back. A negative that rounds to nothing is 0. Throws overflow where 15 digits lie beyond the
+// range of a double.
 double Round(double value, std::int16_t digits);
 
 // Every digit of the scale, a point, and "-" for the sign bit: 12.50, -0.00.

@@ -29,8 +29,9 @@ bool beyondLimit(const CalculatorState& s) {
     if (!digit) return false;
     const std::int64_t limit = largestRoundable[static_cast<std::size_t>(*digit)];
     const Separators separators = s.separators();
-    if (s.operand.compare(0, separators) < 0) return s.operand.compare(-limit, separators) < 0;
-    return s.operand.compare(limit, separators) > 0;
+    if (std::is_lt(s.operand.compare(0, separators)))
+        return std::is_lt(s.operand.compare(-limit, separators));
+    return std::is_gt(s.operand.compare(limit, separators));
 }
 
 }  // namespace

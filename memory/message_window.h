@@ -1,5 +1,5 @@
-// The small modal window that says that there is nothing to undo. Its opening wipes the tape, and the memory cells go
-// back to what they held at the start or the last load.
+// The small modal window that says that there is nothing to undo. Its opening wipes the tape, and the memory
+// cells go back to what they held at the start or the last load.
 #pragma once
 
 #include <functional>

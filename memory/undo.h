@@ -1,5 +1,5 @@
-// Undo works on whole copies of the calculator: after each key that can change the calculation its record goes into
-// a numbered file; Undo reads the file one below, and deletes the newer one.
+// Undo works on whole copies of the calculator: after each key that can change the calculation its record
+// goes into a numbered file; Undo reads the file one below, and deletes the newer one.
 #pragma once
 
 #include <functional>
@@ -26,8 +26,8 @@ class Undo {
     // The snapshot point at the end of a key release.
     void takeUndoSnapshot();
 
-    // Writes the present state under the number of undoCounter. When that fails a box says so and the process ends:
-    // no step may go by without its copy.
+    // Writes the present state under the number of undoCounter. When that fails a box says so and the process
+    // ends: no step may go by without its copy.
     void writeSnapshotFile();
 
     // One step back. The first Undo after typing only clears the entry.
@@ -37,7 +37,8 @@ class Undo {
     void anzeigeChanged();
     void zwischenChanged();
 
-    // The memory cells as they were at the start or the last load. A snapshot that cannot be read leaves them.
+    // The memory cells as they were at the start or the last load. A snapshot that cannot be read leaves
+    // them.
     void restoreCells();
 
   private:

@@ -66,16 +66,12 @@ std::optional<unsigned char> toWindows1252(char16_t character) {
     return static_cast<unsigned char>(0x80 + (found - upperControls.begin()));
 }
 
-void appendWindows1252(TextView text, std::string& bytes) {
-    const std::size_t before = bytes.size();
-    bytes.resize(before + text.size());
-    convert(text.data(), text.size(), reinterpret_cast<Byte*>(bytes.data() + before), byteOrMark);
+void encodeWindows1252(TextView text, char* bytes) {
+    convert(text.data(), text.size(), reinterpret_cast<Byte*>(bytes), byteOrMark);
 }
 
-void appendFromWindows1252(std::string_view bytes, Text& text) {
-    const std::size_t before = text.size();
-    text.resize(before + bytes.size());
-    convert(reinterpret_cast<const Byte*>(bytes.data()), bytes.size(), text.data() + before, fromWindows1252);
+void decodeWindows1252(std::string_view bytes, char16_t* characters) {
+    convert(reinterpret_cast<const Byte*>(bytes.data()), bytes.size(), characters, fromWindows1252);
 }
 
 }  // namespace zifferon

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include "platform/text.h"
@@ -15,11 +14,11 @@ char16_t fromWindows1252(unsigned char byte);
 // The byte of a character, or nothing where the set does not hold it.
 std::optional<unsigned char> toWindows1252(char16_t character);
 
-// Adds the bytes of a text, one for each character; "?" stands for what the set does not hold. Both are made
-// for texts of megabytes.
-void appendWindows1252(TextView text, std::string& bytes);
+// Writes the bytes of a text, one for each character, from `bytes` on; "?" stands for what the set does not
+// hold. Both ways are made for texts of megabytes.
+void encodeWindows1252(TextView text, char* bytes);
 
-// Adds the characters of bytes. Every byte has one.
-void appendFromWindows1252(std::string_view bytes, Text& text);
+// Writes the characters of bytes, one for each byte, from `characters` on.
+void decodeWindows1252(std::string_view bytes, char16_t* characters);
 
 }  // namespace zifferon

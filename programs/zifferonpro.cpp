@@ -1,5 +1,6 @@
 // The window program.
 #include <QApplication>
+#include <QFont>
 #include <QIcon>
 
 #include "platform/qt/form_view.h"
@@ -10,6 +11,9 @@ int main(int argc, char** argv) {
     // One look on every desktop: the program brings its own colours.
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication application(argc, argv);
+    QFont boxFont(QStringLiteral("Arial"));
+    boxFont.setPixelSize(13);
+    QApplication::setFont(boxFont);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/zifferonpro.svg")));
     zifferon::QtMachine machine;
     zifferon::Program program(machine.machine);

@@ -27,14 +27,27 @@ constexpr std::array<TextScheme, 8> textSchemes = {{
 constexpr std::array textSchemeOrder = {5, 6, 1, 2, 3, 4, 7, 8};
 
 constexpr std::array<Colour, 16> backSchemes = {{
-    {192, 192, 192}, {192, 192, 255}, {150, 163, 211}, {255, 192, 255}, {203, 175, 245}, {214, 255, 196},
-    {171, 217, 140}, {250, 203, 199}, {234, 155, 147}, {255, 255, 192}, {245, 242, 126}, {255, 224, 192},
-    {255, 192, 128}, {215, 185, 164}, {224, 224, 224}, {128, 128, 128},
+    {192, 192, 192},
+    {192, 192, 255},
+    {150, 163, 211},
+    {255, 192, 255},
+    {203, 175, 245},
+    {214, 255, 196},
+    {171, 217, 140},
+    {250, 203, 199},
+    {234, 155, 147},
+    {255, 255, 192},
+    {245, 242, 126},
+    {255, 224, 192},
+    {255, 192, 128},
+    {215, 185, 164},
+    {224, 224, 224},
+    {128, 128, 128},
 }};
 
 constexpr std::array<TextView, 19> onBackground = {
-    u"Frame1", u"Frame2", u"Frame3", u"Frame4",     u"Frame5",    u"Frame6",  u"Frame8",
-    u"Label1", u"Label2", u"Label3", u"Label4",     u"Label5",    u"Label6",  u"Label7",
+    u"Frame1", u"Frame2",   u"Frame3",     u"Frame4",    u"Frame5", u"Frame6", u"Frame8",
+    u"Label1", u"Label2",   u"Label3",     u"Label4",    u"Label5", u"Label6", u"Label7",
     u"blende", u"checkrnd", u"Checksound", u"clipcheck", u"Checkob"};
 
 template <class Schemes>

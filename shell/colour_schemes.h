@@ -12,8 +12,8 @@ constexpr int standardBackScheme = 1;
 void applyTextScheme(Pultform& window, int scheme);
 void applyBackScheme(Pultform& window, int scheme);
 
-// The scheme behind it in the order of the steps, which begins anew at the end. A number outside the order steps to
-// the standard scheme.
+// The scheme behind it in the order of the steps, which begins anew at the end. A number outside the order
+// steps to the standard scheme.
 int nextTextScheme(int scheme);
 int nextBackScheme(int scheme);
 

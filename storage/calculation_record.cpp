@@ -29,19 +29,20 @@ void visitFields(Record& record, Visit&& visit) {
     visit(record.recordRoundingCaption);
 }
 
-// Appends each field to the bytes; of a long text only what stands in front of its characters, and those are
-// noted with their place.
+// Writes each field; of a long text only what stands in front of its characters, and those are noted with
+// their place.
 struct FieldWriter {
-    std::string& bytes;
+    RecordWriter& writer;
     std::size_t* longTextAt;
     std::string_view* longText;
 
-    void operator()(const CalcValue& value) { appendTagged(bytes, value); }
-    void operator()(float value) { append(bytes, value); }
-    void operator()(double value) { append(bytes, value); }
+    void operator()(const Text& text) { writer.tagged(text); }
+    void operator()(const CalcValue& value) { writer.tagged(value); }
+    void operator()(float value) { writer.write(value); }
+    void operator()(double value) { writer.write(value); }
     void operator()(const EncodedText& text) {
-        appendTextHead(bytes, text.bytes().size());
-        *longTextAt++ = bytes.size();
+        writer.textHead(text.bytes().size());
+        *longTextAt++ = writer.bytes().size();
         *longText++ = text.bytes();
     }
 };
@@ -50,6 +51,7 @@ struct FieldWriter {
 struct FieldChecker {
     RecordReader reader;
 
+    void operator()(const Text&) { reader.tagged(); }
     void operator()(const CalcValue&) { reader.tagged(); }
     void operator()(const EncodedText&) { reader.tagged(); }
     void operator()(float value) { reader.read(value); }
@@ -60,14 +62,16 @@ struct FieldReader {
     RecordReader reader;
     Separators separators;
 
+    void operator()(Text& text) { text = reader.tagged().value().toText(separators); }
     void operator()(CalcValue& value) { value = reader.tagged().value(); }
     void operator()(float& value) { reader.read(value); }
     void operator()(double& value) { reader.read(value); }
     void operator()(EncodedText& text) {
         const TaggedBytes found = reader.tagged();
         if (found.isText()) return text.setBytes(found.content);
-        std::string bytes;
-        appendWindows1252(found.value().toText(separators), bytes);
+        const Text number = found.value().toText(separators);
+        std::string bytes(number.size(), '\0');
+        encodeWindows1252(number, bytes.data());
         text.setBytes(bytes);
     }
 };
@@ -75,20 +79,17 @@ struct FieldReader {
 float switchOf(bool on) { return on ? 1.0F : 0.0F; }
 
 void setCells(CalculatorState& state, const MemoryCells& cells) {
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-        state.memo[i].setText(cells[i].toText(state.separators()));
-    }
+    for (std::size_t i = 0; i < cells.size(); ++i) state.memo[i].setText(cells[i]);
 }
 
 }  // namespace
 
 EncodedRecord::EncodedRecord(const CalculationRecord& record) {
-    short_.reserve(256);  // most often enough
     visitFields(record, FieldWriter{short_, longTextAt_.data(), longText_.data()});
 }
 
 std::array<std::string_view, 5> EncodedRecord::pieces() const {
-    const std::string_view all = short_;
+    const std::string_view all = short_.bytes();
     const auto [tapeAt, printCopyAt] = longTextAt_;
     return {all.substr(0, tapeAt), longText_[0], all.substr(tapeAt, printCopyAt - tapeAt), longText_[1],
             all.substr(printCopyAt)};
@@ -134,9 +135,9 @@ void applyCells(const CalculationRecord& record) { setCells(record.state, record
 void applyFields(CalculationRecord& record) {
     CalculatorState& s = record.state;
     record.tape.writeToField();
-    s.zwischen.setText(record.subtotal.toText(s.separators()));
-    s.txtop.setText(record.operatorSign.toText(s.separators()));
-    s.eingabe.setText(record.entry.toText(s.separators()));
+    s.zwischen.setText(record.subtotal);
+    s.txtop.setText(record.operatorSign);
+    s.eingabe.setText(record.entry);
     record.printCopy.writeToField();
     s.eingabe.caretToEnd();
 }
@@ -154,7 +155,7 @@ void restoreCells(Files& files, const std::string& path, CalculatorState& state)
     const std::string bytes = files.readOrCreate(path);
     RecordReader reader(bytes);
     MemoryCells cells;
-    for (CalcValue& cell : cells) cell = reader.tagged().value();
+    for (Text& cell : cells) cell = reader.tagged().value().toText(state.separators());
     setCells(state, cells);
 }
 

@@ -14,10 +14,10 @@
 
 namespace zifferon {
 
-using MemoryCells = std::array<CalcValue, 5>;
+using MemoryCells = std::array<Text, 5>;
 
-// The twenty fields in the order of the file: tagged values, and from recordAlwaysOnTop on untagged ones but
-// for the CalcValues. A switch is 0 or 1. The record belongs to one calculator, whose tapes it follows.
+// The twenty fields in the order of the file. Texts and CalcValues stand there as tagged values, the others
+// without a type word; a switch is 0 or 1. The record belongs to one calculator, whose tapes it follows.
 struct CalculationRecord {
     explicit CalculationRecord(CalculatorState& calculator)
         : state(calculator), tape(calculator.anzeige), printCopy(calculator.superdruck) {}
@@ -26,7 +26,7 @@ struct CalculationRecord {
 
     MemoryCells M;  // M1 to M5
     EncodedText tape;
-    CalcValue subtotal, operatorSign, entry;
+    Text subtotal, operatorSign, entry;
     EncodedText printCopy;
     double recordAlwaysOnTop = 0;
     float savedChainTotalled = 0;
@@ -45,7 +45,7 @@ class EncodedRecord {
     std::array<std::string_view, 5> pieces() const;
 
   private:
-    std::string short_;                        // all but the characters of the long texts
+    RecordWriter short_;                       // all but the characters of the long texts
     std::array<std::size_t, 2> longTextAt_{};  // where in it those belong
     std::array<std::string_view, 2> longText_;
 };
@@ -57,8 +57,9 @@ void gatherRecord(CalculationRecord& record);
 // Takes recordAlwaysOnTop, recordSound and recordClipboard from the check boxes.
 void gatherSwitches(CalculationRecord& record);
 
-// Decodes the fields; tagged ones behind the end become nothing, the others stay as they were. Throws
-// RecordFailure, and then the record is as before.
+// Decodes the fields; tagged ones behind the end become nothing, the others stay as they were. What is no
+// text in the place of one becomes a text under the separators in use. Throws RecordFailure, and then the
+// record is as before.
 void decodeRecord(std::string_view bytes, CalculationRecord& record);
 
 // Writes the record from the start of the file; what a longer file held behind it stays, and nothing reads

@@ -25,8 +25,8 @@ std::size_t commonPrefix(std::string_view a, std::string_view b) {
 
 void EncodedText::takeFromField() {
     findAgreement();
-    bytes_.resize(agreed_);
-    appendWindows1252(TextView(field_.text()).substr(agreed_), bytes_);
+    bytes_.resize(field_.text().size());
+    encodeWindows1252(TextView(field_.text()).substr(agreed_), bytes_.data() + agreed_);
     agreed_ = bytes_.size();
 }
 
@@ -38,8 +38,8 @@ void EncodedText::setBytes(std::string_view bytes) {
 
 void EncodedText::writeToField() {
     findAgreement();
-    Text rest;
-    appendFromWindows1252(std::string_view(bytes_).substr(agreed_), rest);
+    Text rest(bytes_.size() - agreed_, u'\0');
+    decodeWindows1252(std::string_view(bytes_).substr(agreed_), rest.data());
     field_.setTextFrom(agreed_, rest);
 }
 

@@ -1,6 +1,5 @@
 #include "storage/tagged_value.h"
 
-#include <array>
 #include <bit>
 
 #include "platform/windows1252.h"
@@ -17,16 +16,10 @@ constexpr std::uint16_t longLength = 0xFFFF;  // in place of a length that does 
 constexpr std::size_t decimalSize = 14;
 constexpr std::uint8_t positiveSign = 0, negativeSign = 0x80;
 
-template <class... Unsigned>
-void appendLittle(std::string& bytes, Unsigned... values) {
-    std::array<char, (sizeof values + ...)> ordered;
-    char* next = ordered.data();
-    const auto put = [&](auto value) {
-        for (std::size_t i = 0; i < sizeof value; ++i) *next++ = static_cast<char>(value >> 8 * i);
-    };
-    (put(values), ...);
-    bytes.append(ordered.data(), ordered.size());
-}
+template <class... Cases>
+struct Overloaded : Cases... {
+    using Cases::operator()...;
+};
 
 template <class Unsigned>
 Unsigned little(std::string_view bytes) {
@@ -42,28 +35,6 @@ double doubleOf(std::string_view bytes) { return std::bit_cast<double>(little<st
 std::uint32_t bitsOf(float value) { return std::bit_cast<std::uint32_t>(value); }
 std::uint64_t bitsOf(double value) { return std::bit_cast<std::uint64_t>(value); }
 
-struct Appender {
-    std::string& bytes;
-
-    void operator()(std::monostate) const { appendLittle(bytes, nothing); }
-    void operator()(std::int16_t value) const {
-        appendLittle(bytes, integer16, static_cast<std::uint16_t>(value));
-    }
-    void operator()(std::int32_t value) const {
-        appendLittle(bytes, integer32, static_cast<std::uint32_t>(value));
-    }
-    void operator()(double value) const { appendLittle(bytes, floating, bitsOf(value)); }
-    void operator()(const Text& value) const {
-        appendTextHead(bytes, value.size());
-        appendWindows1252(value, bytes);
-    }
-    void operator()(const Decimal& value) const {
-        appendLittle(bytes, exactDecimal, static_cast<std::uint8_t>(value.scale()),
-                     value.isNegative() ? negativeSign : positiveSign, value.high(), value.low(),
-                     value.mid());
-    }
-};
-
 bool isDecodableDecimal(std::string_view content) {
     const auto scale = little<std::uint8_t>(content);
     const auto sign = little<std::uint8_t>(content.substr(1));
@@ -76,25 +47,60 @@ Decimal decimalOf(std::string_view content) {
 }
 
 Text textOf(std::string_view content) {
-    Text result;
-    appendFromWindows1252(content, result);
+    Text result(content.size(), u'\0');
+    decodeWindows1252(content, result.data());
     return result;
 }
 
 }  // namespace
 
-void appendTagged(std::string& bytes, const CalcValue& value) { std::visit(Appender{bytes}, value.value()); }
-
-void appendTagged(std::string& bytes, float value) { appendLittle(bytes, single, bitsOf(value)); }
-
-void appendTextHead(std::string& bytes, std::size_t length) {
-    if (length < longLength) return appendLittle(bytes, text, static_cast<std::uint16_t>(length));
-    appendLittle(bytes, text, longLength, static_cast<std::uint32_t>(length));
+inline char* RecordWriter::grow(std::size_t size) {
+    const std::size_t before = size_;
+    size_ += size;
+    if (size_ > bytes_.size()) bytes_.resize(2 * size_);
+    return bytes_.data() + before;
 }
 
-void append(std::string& bytes, float value) { appendLittle(bytes, bitsOf(value)); }
+template <class... Unsigned>
+inline void RecordWriter::put(Unsigned... values) {
+    char* next = grow((sizeof values + ...));
+    const auto putOne = [&](auto value) {
+        for (std::size_t i = 0; i < sizeof value; ++i) *next++ = static_cast<char>(value >> 8 * i);
+    };
+    (putOne(values), ...);
+}
 
-void append(std::string& bytes, double value) { appendLittle(bytes, bitsOf(value)); }
+void RecordWriter::tagged(const CalcValue& value) {
+    std::visit(Overloaded{
+                   [&](std::monostate) { put(nothing); },
+                   [&](std::int16_t number) { put(integer16, static_cast<std::uint16_t>(number)); },
+                   [&](std::int32_t number) { put(integer32, static_cast<std::uint32_t>(number)); },
+                   [&](double number) { put(floating, bitsOf(number)); },
+                   [&](const Text& characters) { tagged(characters); },
+                   [&](const Decimal& number) {
+                       put(exactDecimal, static_cast<std::uint8_t>(number.scale()),
+                           number.isNegative() ? negativeSign : positiveSign, number.high(), number.low(),
+                           number.mid());
+                   },
+               },
+               value.value());
+}
+
+void RecordWriter::tagged(const Text& value) {
+    textHead(value.size());
+    encodeWindows1252(value, grow(value.size()));
+}
+
+void RecordWriter::tagged(float value) { put(single, bitsOf(value)); }
+
+void RecordWriter::textHead(std::size_t length) {
+    if (length < longLength) return put(text, static_cast<std::uint16_t>(length));
+    put(text, longLength, static_cast<std::uint32_t>(length));
+}
+
+void RecordWriter::write(float value) { put(bitsOf(value)); }
+
+void RecordWriter::write(double value) { put(bitsOf(value)); }
 
 bool TaggedBytes::isText() const { return type == text; }
 

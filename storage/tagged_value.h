@@ -29,12 +29,29 @@ class RecordFailure : public std::exception {
     const char* what() const noexcept override { return "undecodable record"; }
 };
 
-// Adding to the bytes of a file.
-void appendTagged(std::string& bytes, const CalcValue& value);
-void appendTagged(std::string& bytes, float value);
-void appendTextHead(std::string& bytes, std::size_t length);  // what stands in front of a text's characters
-void append(std::string& bytes, float value);
-void append(std::string& bytes, double value);
+// Puts values one behind the other. Made for many short ones.
+class RecordWriter {
+  public:
+    void tagged(const CalcValue& value);
+    void tagged(const Text& value);
+    void tagged(float value);
+
+    // What stands in front of the characters of a tagged text.
+    void textHead(std::size_t length);
+
+    void write(float value);
+    void write(double value);
+
+    std::string_view bytes() const { return std::string_view(bytes_).substr(0, size_); }
+
+  private:
+    template <class... Unsigned>
+    void put(Unsigned... values);
+    char* grow(std::size_t size);
+
+    std::string bytes_ = std::string(256, '\0');  // with room behind the first size_; mostly enough
+    std::size_t size_ = 0;
+};
 
 // A tagged value that is known to be whole and decodable, still in the bytes of the file.
 struct TaggedBytes {

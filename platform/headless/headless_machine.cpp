@@ -46,17 +46,7 @@ const char* wordOf(BoxAnswer answer) {
     return "ok";
 }
 
-BoxAnswer unasked(BoxButtons buttons) {
-    switch (buttons) {
-        case BoxButtons::yesNo:
-            return BoxAnswer::no;
-        case BoxButtons::yesNoCancel:
-            return BoxAnswer::no;
-        case BoxButtons::ok:
-            break;
-    }
-    return BoxAnswer::ok;
-}
+BoxAnswer unasked(BoxButtons buttons) { return buttons == BoxButtons::ok ? BoxAnswer::ok : BoxAnswer::no; }
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QPainter>
 #include <algorithm>
 
 #include "platform/qt/tape_access.h"

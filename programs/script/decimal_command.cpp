@@ -51,7 +51,7 @@ std::string binary(const std::string& op, const std::string& a, const std::strin
     if (op == "mul") return text(left * right);
     if (op == "div") return text(left / right);
     const auto order = left <=> right;
-    return order < 0 ? "-1" : order > 0 ? "1" : "0";
+    return std::is_lt(order) ? "-1" : std::is_gt(order) ? "1" : "0";
 }
 
 std::string failureWord(const CalculationFailure& failure) {

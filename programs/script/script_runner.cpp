@@ -11,7 +11,8 @@
 namespace zifferon {
 
 ScriptRunner::ScriptRunner(std::ostream& out, std::ostream& errors)
-    : out_(out), errors_(errors), headless_(out), files_(disk_), machine_{headless_, headless_, headless_, files_, headless_, headless_} {}
+    : out_(out), errors_(errors), headless_(out), files_(disk_), machine_{headless_, headless_, headless_,
+                                                                          files_,    headless_, headless_} {}
 
 int ScriptRunner::run(std::istream& script) {
     std::string line;

@@ -55,7 +55,7 @@ std::string resultOf(const Row& row) {
         if (row.op == "parse") return text(decimal(row.a));
         if (row.op == "fromdbl") return text(Decimal::fromDouble(doubleOfBits(row.b)));
         const auto order = decimal(row.a) <=> decimal(row.b);
-        return order < 0 ? "-1" : order > 0 ? "1" : "0";
+        return std::is_lt(order) ? "-1" : std::is_gt(order) ? "1" : "0";
     } catch (const CalculationFailure& failure) {
         switch (failure.kind()) {
             case FailureKind::overflow:
@@ -102,6 +102,20 @@ TEST(Decimal, partsRoundTrip) {
     EXPECT_EQ(value.scale(), 28);
     EXPECT_TRUE(value.isNegative());
     EXPECT_THROW(Decimal::fromParts(1, 0, 0, 29, false), CalculationFailure);
+}
+
+// Quotients at the edges of the 96 bits, where the number of decimals hangs on the rounding.
+TEST(Decimal, quotientsTakeTheMostDecimalsThatFit) {
+    const auto quotient = [](const char* a, const char* b) { return resultOf({"div", a, b, ""}); };
+    // With one decimal the digits would be the largest number and round up.
+    EXPECT_EQ(quotient("55459713759985036315480765235", "7"), "7922816251426433759354395034");
+    EXPECT_EQ(quotient("79228162514264337593543950335", "0.9999999999999999999999999999"), "OVERFLOW");
+    EXPECT_EQ(quotient("79228162514264337593543950335", "0.1"), "OVERFLOW");
+    EXPECT_EQ(quotient("7922816251426433759354395033", "0.1"), "79228162514264337593543950330");
+    EXPECT_EQ(quotient("1", "79228162514264337593543950335"), "0");
+    EXPECT_EQ(quotient("3", "-0.0000000000000000000000000004"), "-7500000000000000000000000000");
+    EXPECT_EQ(quotient("20000000000000000000000000001", "2"), "10000000000000000000000000000");
+    EXPECT_EQ(quotient("20000000000000000000000000003", "2"), "10000000000000000000000000002");
 }
 
 // a - b + b and a / b x b hold for amounts, whatever their scales.

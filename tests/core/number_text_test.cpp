@@ -78,6 +78,18 @@ TEST(NumberText, theMaskGroupsAndForcesTwoDecimals) {
     EXPECT_EQ(maskText(1234567890123456.0, pointStyle, 28), u"1,234,567,890,123,460.00");
     EXPECT_EQ(maskText(-1e-40, pointStyle, 28), u"0.00");
     EXPECT_EQ(maskText(0.99999, pointStyle, 2), u"1.00");
+    EXPECT_EQ(maskText(5e-324, pointStyle, 28), u"0.00");
+    EXPECT_EQ(maskText(-1e308, commaStyle, 28).substr(0, 9), u"-100.000.");
+    EXPECT_THROW(maskText(INFINITY, commaStyle, 28), CalculationFailure);
+}
+
+TEST(NumberText, fixedDecimalsAreGroupedAndExactlyAsManyAsAsked) {
+    EXPECT_EQ(fixedText(1234567.005, 2, commaStyle), u"1.234.567,01");
+    EXPECT_EQ(fixedText(12, 4, pointStyle), u"12.0000");
+    EXPECT_EQ(fixedText(-1234.5, 0, pointStyle), u"-1,235");
+    EXPECT_EQ(fixedText(-0.004, 2, pointStyle), u"0.00");
+    EXPECT_EQ(fixedText(0.05, 1, pointStyle), u"0.1");
+    EXPECT_EQ(fixedText(999.96, 1, pointStyle), u"1,000.0");
 }
 
 TEST(NumberText, roundTakesTiesAwayFromZero) {
@@ -95,12 +107,12 @@ TEST(CalcValue, comparesByWhatItReads) {
     EXPECT_TRUE(CalcValue().equals(0, commaStyle));
     EXPECT_TRUE(CalcValue(u"61").equals(61, commaStyle));
     EXPECT_TRUE(CalcValue(u"0,00").equals(0, commaStyle));
-    EXPECT_TRUE(CalcValue(u"1.234,50").compare(1234, commaStyle) > 0);
+    EXPECT_TRUE(std::is_gt(CalcValue(u"1.234,50").compare(1234, commaStyle)));
     EXPECT_FALSE(CalcValue(u"").equals(37, commaStyle));
-    EXPECT_TRUE(CalcValue(u"").compare(999999999999999, commaStyle) > 0);
-    EXPECT_TRUE(CalcValue(2.5).compare(2, commaStyle) > 0);
-    EXPECT_TRUE(CalcValue(Text(40, u'9')).compare(5, commaStyle) > 0);
-    EXPECT_TRUE(CalcValue(u"-" + Text(40, u'9')).compare(5, commaStyle) < 0);
+    EXPECT_TRUE(std::is_gt(CalcValue(u"").compare(999999999999999, commaStyle)));
+    EXPECT_TRUE(std::is_gt(CalcValue(2.5).compare(2, commaStyle)));
+    EXPECT_TRUE(std::is_gt(CalcValue(Text(40, u'9')).compare(5, commaStyle)));
+    EXPECT_TRUE(std::is_lt(CalcValue(Text(u"-").append(40, u'9')).compare(5, commaStyle)));
 }
 
 TEST(CountDecimals, countsOnTheTextOfTheFraction) {

@@ -1,9 +1,8 @@
-// Message boxes, answered by the keyboard.
+// Message boxes and modal windows, answered by the keyboard.
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTimer>
 
 #include "tests/window/window_fixture.h"
 
@@ -13,27 +12,15 @@ namespace {
 
 class BoxesTest : public WindowTest {
   protected:
-    // Opens the box from a handler, lets `person` act once it has the keyboard, and gives the answer.
+    // Opens the box from a handler and gives the person's answer.
     BoxAnswer answer(const Box& box, const std::function<void(QWidget&)>& person) {
-        bool acted = false;
-        QTimer watch;
-        QObject::connect(&watch, &QTimer::timeout, [&] {
-            QWidget* const shown = QApplication::activeModalWidget();
-            if (acted || shown == nullptr || !shown->isActiveWindow()) return;
-            acted = true;
-            person(*shown);
-        });
-        watch.start(10);
+        whenAWindowOpens(person);
         BoxAnswer result = BoxAnswer::ok;
         view.run([&] {
             state().zwischen.setText(u"before the box");
             result = machine.machine.boxes.show(box);
         });
         return result;
-    }
-
-    std::function<void(QWidget&)> pressing(int key) {
-        return [this, key](QWidget&) { hands.stroke({key}); };
     }
 };
 
@@ -65,6 +52,17 @@ TEST_F(BoxesTest, TextIsPlainAndWhatWasDoneIsSeenBehindIt) {
                   QStringLiteral("before the box"));
         shown.close();
     });
+}
+
+TEST_F(BoxesTest, KeyThatClosesAModalWindowDoesNotActBehindIt) {
+    program.beginSnapshots();
+    state().memo[0].setText(u"19");
+    whenAWindowOpens(pressing(keys::enter));
+    click(state().zurück, {20, 10});
+    EXPECT_TRUE(comesTrue([&] { return !watch.isActive() && view.isActiveWindow(); }));
+    EXPECT_EQ(state().memo[0].text(), u"");
+    hands.stroke({keys::keypad5, keys::keypadAdd});
+    EXPECT_TRUE(comesTrue([&] { return tape() == "\r\n5,00      "; })) << tape();
 }
 
 }  // namespace

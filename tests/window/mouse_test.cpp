@@ -75,6 +75,34 @@ TEST_F(WindowTest, TheTapeFollowsItsEnd) {
     EXPECT_EQ(bar.value(), bar.maximum());
 }
 
+TEST_F(WindowTest, PageUpMovesTheTapeUntilAnotherKeyComes) {
+    Text lines;
+    for (int i = 0; i < 100; ++i) lines += u"\r\n1,00 +   ";
+    state().anzeige.setText(lines);
+    state().anzeige.caretToEnd();
+    view.refresh();
+    const auto* const area = view.findChild<QAbstractScrollArea*>(QStringLiteral("anzeige"));
+    const QScrollBar& bar = *area->verticalScrollBar();
+    const int end = bar.value();
+    hands.setNumLock(false);
+    const int pageUp = 81;
+    hands.stroke({pageUp, pageUp, pageUp});
+    EXPECT_TRUE(comesTrue([&] { return bar.value() < end; }));
+    EXPECT_EQ(program.pultform.focus(), &state().anzeige);
+    hands.setNumLock(true);
+    hands.stroke({keys::keypad5, keys::keypad7});
+    EXPECT_TRUE(comesTrue([&] { return entry() == "7"; }));
+}
+
+TEST_F(WindowTest, MemoryCellTakesTheKeyboard) {
+    click(state().memo[0], {50, 8});
+    EXPECT_TRUE(comesTrue([&] { return program.pultform.focus() == &state().memo[0]; }));
+    hands.stroke({keys::keypad1, keys::keypad5});
+    EXPECT_TRUE(comesTrue([&] { return state().memo[0].is(u"15"); }));
+    hands.stroke({keys::enter});
+    EXPECT_TRUE(comesTrue([&] { return program.pultform.focus() == &state().eingabe; }));
+}
+
 }  // namespace
 
 }  // namespace zifferon::test

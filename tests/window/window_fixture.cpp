@@ -1,6 +1,6 @@
 #include "tests/window/window_fixture.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <chrono>
 #include <thread>
@@ -41,6 +41,17 @@ QPoint WindowTest::onScreen(const Control& control, QPoint offset) {
 void WindowTest::click(const Control& control, QPoint offset, int button) {
     hands.moveMouse(onScreen(control, offset));
     hands.click(button);
+}
+
+void WindowTest::whenAWindowOpens(const std::function<void(QWidget&)>& person) {
+    watch.disconnect();
+    watch.callOnTimeout([this, person] {
+        QWidget* const shown = QApplication::activeModalWidget();
+        if (shown == nullptr || !shown->isActiveWindow()) return;
+        watch.stop();
+        person(*shown);
+    });
+    watch.start(10);
 }
 
 }  // namespace zifferon::test

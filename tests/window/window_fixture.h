@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <functional>
 #include <string>
 
@@ -18,6 +21,16 @@ namespace zifferon::test {
 bool comesTrue(const std::function<bool()>& condition, int milliseconds = 10000);
 
 void letPass(int milliseconds);
+
+// An empty program folder, and the current one.
+class FreshFolder {
+  public:
+    FreshFolder() { QDir::setCurrent(folder_.path()); }
+    ~FreshFolder() { QDir::setCurrent(QDir::rootPath()); }
+
+  private:
+    QTemporaryDir folder_;
+};
 
 class WindowTest : public ::testing::Test {
   protected:
@@ -34,10 +47,19 @@ class WindowTest : public ::testing::Test {
     QPoint onScreen(const Control& control, QPoint offset);
     void click(const Control& control, QPoint offset, int button = 1);
 
+    // Lets `person` act once when another window of the program has the keyboard.
+    void whenAWindowOpens(const std::function<void(QWidget&)>& person);
+
+    std::function<void(QWidget&)> pressing(int key) {
+        return [this, key](QWidget&) { hands.stroke({key}); };
+    }
+
+    FreshFolder folder;
     QtMachine machine;
     Program program{machine.machine};
     FormView view{program.pultform, program.keys};
     RealInput hands;
+    QTimer watch;
 };
 
 }  // namespace zifferon::test

@@ -73,8 +73,6 @@ class Bench {
         applyVariables(record_);
     }
 
-    void removeSnapshots() { files_.removeAll(".", "temp*.tmp"); }
-
     std::string bytes() {
         std::string all;
         for (const std::string_view piece : EncodedRecord(record_).pieces()) all += piece;
@@ -99,39 +97,30 @@ class Bench {
     CalculationRecord record_;
 };
 
-std::string snapshotName(int turn) { return "temp" + std::to_string(turn) + ".tmp"; }
-
-// Every turn has a new file, as every step of a calculation has; they are cleared away outside of the
-// measured time, before they fill the machine's memory.
-template <class Write>
-void measureWriting(benchmark::State& run, Bench& bench, Write write) {
-    const int turnsBetween = 1 + static_cast<int>((std::int64_t{64} << 20) / (run.range(0) * 80));
-    int turn = 0;
-    for (auto _ : run) {
-        bench.step(++turn);
-        write(snapshotName(turn));
-        if (turn % turnsBetween != 0) continue;
-        run.PauseTiming();
-        bench.removeSnapshots();
-        run.ResumeTiming();
-    }
-}
+// A few files, written again and again.
+std::string snapshotName(int turn) { return "temp" + std::to_string(turn % 4) + ".tmp"; }
 
 void bareWrite(benchmark::State& run) {
     Bench bench(run.range(0));
     const std::string bytes = bench.bytes();
     const std::string folder = bench.path() + '/';
-    measureWriting(run, bench, [&](const std::string& name) {
-        const int file = ::open((folder + name).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    int turn = 0;
+    for (auto _ : run) {
+        bench.step(++turn);
+        const int file = ::open((folder + snapshotName(turn)).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
         if (::write(file, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) std::abort();
         ::close(file);
-    });
+    }
     run.SetBytesProcessed(run.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 
 void snapshot(benchmark::State& run) {
     Bench bench(run.range(0));
-    measureWriting(run, bench, [&](const std::string& name) { bench.snapshot(name); });
+    int turn = 0;
+    for (auto _ : run) {
+        bench.step(++turn);
+        bench.snapshot(snapshotName(turn));
+    }
 }
 
 // Reading a snapshot and bringing it to the calculator, in turn one that has the last line and one that lacks
@@ -141,7 +130,7 @@ void back(benchmark::State& run) {
     bench.step(1);
     bench.snapshot("temp1.tmp");
     int turn = 0;
-    for (auto _ : run) bench.back(snapshotName(turn++ % 2));
+    for (auto _ : run) bench.back(snapshotName(++turn % 2));
 }
 
 }  // namespace

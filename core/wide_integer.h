@@ -97,21 +97,6 @@ class WideInteger {
         return remainder;
     }
 
-    // The same for a divisor below 2^96, bit by bit where it is larger than a limb.
-    UInt128 divide(UInt128 divisor) {
-        if (divisor >> 64 == 0) return divide(static_cast<std::uint64_t>(divisor));
-        UInt128 remainder = 0;
-        for (int bit = 64 * count - 1; bit >= 0; --bit) {
-            std::uint64_t& limb = limbs_[static_cast<std::size_t>(bit / 64)];
-            const std::uint64_t mask = std::uint64_t{1} << (bit % 64);
-            remainder = remainder << 1 | ((limb & mask) != 0 ? 1u : 0u);
-            const bool goes = remainder >= divisor;
-            if (goes) remainder -= divisor;
-            limb = goes ? limb | mask : limb & ~mask;
-        }
-        return remainder;
-    }
-
     std::strong_ordering operator<=>(const WideInteger& other) const {
         for (std::size_t i = count; i-- > 0;) {
             if (limbs_[i] != other.limbs_[i]) return limbs_[i] <=> other.limbs_[i];

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <exception>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -29,6 +30,24 @@ class FileFailure : public std::exception {
     FileTrouble trouble_;
 };
 
+// The bytes of a file.
+class FileContent {
+  public:
+    FileContent() = default;
+    explicit FileContent(std::size_t size)
+        : bytes_(std::make_unique_for_overwrite<char[]>(size)), size_(size) {}
+
+    std::string_view view() const { return {bytes_.get(), size_}; }
+
+    char* data() { return bytes_.get(); }
+    std::size_t size() const { return size_; }
+    void shorten(std::size_t size) { size_ = size; }
+
+  private:
+    std::unique_ptr<char[]> bytes_;  // no string, which would fill what is overwritten at once
+    std::size_t size_ = 0;
+};
+
 class Files {
   public:
     virtual ~Files() = default;
@@ -38,10 +57,10 @@ class Files {
     virtual bool FileExists(std::string_view name) = 0;
 
     // The whole file. An absent one is missing.
-    virtual std::string read(const std::string& name) = 0;
+    virtual FileContent read(const std::string& name) = 0;
 
     // The whole file; an absent one is created and stays behind with 0 bytes.
-    virtual std::string readOrCreate(const std::string& name) = 0;
+    virtual FileContent readOrCreate(const std::string& name) = 0;
 
     // Writes the pieces one behind the other from the start of the file, and creates it when absent. Bytes of
     // a longer file stay behind them. Where the disk is full the file keeps its former content.

@@ -61,28 +61,27 @@ std::string_view trimmed(std::string_view name) {
 
 using Parts = std::array<iovec, 8>;  // so many pieces are written at once
 
-// Fills `parts` from the front with what of the pieces lies in [begin, end) of the file; returns how many.
-int cut(std::span<const std::string_view> pieces, std::size_t begin, std::size_t end, Parts& parts) {
+// Fills `parts` with what of the pieces lies behind the first `done` bytes, as far as it goes; returns how
+// many.
+int cut(std::span<const std::string_view> pieces, std::size_t done, Parts& parts) {
     std::size_t count = 0;
-    std::size_t start = 0;
-    for (const std::string_view piece : pieces) {
-        const std::size_t from = std::max(begin, start);
-        const std::size_t to = std::min(end, start + piece.size());
-        if (from < to) parts[count++] = {const_cast<char*>(piece.data()) + (from - start), to - from};
+    for (std::string_view piece : pieces) {
+        const std::size_t skipped = std::min(done, piece.size());
+        done -= skipped;
+        piece.remove_prefix(skipped);
+        if (piece.empty()) continue;
+        parts[count++] = {const_cast<char*>(piece.data()), piece.size()};
         if (count == parts.size()) break;
-        start += piece.size();
     }
     return static_cast<int>(count);
 }
 
-void writeRange(const Descriptor& file, std::span<const std::string_view> pieces, std::size_t begin,
-                std::size_t end) {
-    while (begin < end) {
-        Parts parts;
-        const int count = cut(pieces, begin, end, parts);
-        const auto at = static_cast<off_t>(begin);
-        begin += static_cast<std::size_t>(
-            checked([&] { return ::pwritev(file.number(), parts.data(), count, at); }));
+void writeAll(const Descriptor& file, std::span<const std::string_view> pieces) {
+    Parts parts;
+    std::size_t done = 0;
+    while (const int count = cut(pieces, done, parts)) {
+        done +=
+            static_cast<std::size_t>(checked([&] { return ::writev(file.number(), parts.data(), count); }));
     }
 }
 
@@ -134,9 +133,9 @@ bool PosixFiles::FileExists(std::string_view name) {
     return bare < file.size() && file[bare] != '.' && isNormalFile(folder_.number(), file);
 }
 
-std::string PosixFiles::read(const std::string& name) { return readAll(Descriptor(open(name, O_RDONLY))); }
+FileContent PosixFiles::read(const std::string& name) { return readAll(Descriptor(open(name, O_RDONLY))); }
 
-std::string PosixFiles::readOrCreate(const std::string& name) {
+FileContent PosixFiles::readOrCreate(const std::string& name) {
     try {
         return read(name);
     } catch (const FileFailure& failure) {
@@ -147,25 +146,13 @@ std::string PosixFiles::readOrCreate(const std::string& name) {
 
 void PosixFiles::write(const std::string& name, std::span<const std::string_view> pieces) {
     Descriptor file(open(name, O_WRONLY | O_CREAT));
-    std::size_t size = 0;
-    for (const std::string_view piece : pieces) size += piece.size();
-    // Only growth takes room on the disk. It comes first, so that the old content is still whole when it
-    // fails.
-    const off_t oldEnd = checked([&] { return ::lseek(file.number(), 0, SEEK_END); });
-    const auto oldSize = static_cast<std::size_t>(oldEnd);
-    try {
-        writeRange(file, pieces, oldSize, size);
-    } catch (const FileFailure&) {
-        [[maybe_unused]] const int leftLonger = ::ftruncate(file.number(), oldEnd);
-        throw;
-    }
-    writeRange(file, pieces, 0, std::min(size, oldSize));
+    writeAll(file, pieces);
     file.close();
 }
 
 void PosixFiles::replace(const std::string& name, std::string_view content) {
     Descriptor file(open(name, O_WRONLY | O_CREAT | O_TRUNC));
-    writeRange(file, std::span(&content, 1), 0, content.size());
+    writeAll(file, std::span(&content, 1));
     file.close();
 }
 
@@ -213,19 +200,20 @@ int PosixFiles::open(const std::string& name, int flags) {
         [&] { return ::openat(folder_.number(), name.c_str(), flags | O_CLOEXEC | O_NONBLOCK, newFile); });
 }
 
-std::string PosixFiles::readAll(const Descriptor& file) {
-    struct stat status;
-    checked([&] { return ::fstat(file.number(), &status); });
-    if (!S_ISREG(status.st_mode) || status.st_size > largestFile) throw FileFailure(FileTrouble::other);
-    std::string content(static_cast<std::size_t>(status.st_size), '\0');
-    std::size_t size = 0;
-    while (size < content.size()) {
-        const auto more = static_cast<std::size_t>(
-            checked([&] { return ::read(file.number(), content.data() + size, content.size() - size); }));
+FileContent PosixFiles::readAll(const Descriptor& file) {
+    const off_t end = checked([&] { return ::lseek(file.number(), 0, SEEK_END); });
+    if (end > largestFile) throw FileFailure(FileTrouble::other);
+    FileContent content(static_cast<std::size_t>(end));
+    std::size_t done = 0;
+    while (done < content.size()) {
+        const auto more = static_cast<std::size_t>(checked([&] {
+            return ::pread(file.number(), content.data() + done, content.size() - done,
+                           static_cast<off_t>(done));
+        }));
         if (more == 0) break;
-        size += more;
+        done += more;
     }
-    content.resize(size);
+    content.shorten(done);
     return content;
 }
 

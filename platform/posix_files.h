@@ -34,8 +34,8 @@ class PosixFiles : public Files {
     using Files::write;
 
     bool FileExists(std::string_view name) override;
-    std::string read(const std::string& name) override;
-    std::string readOrCreate(const std::string& name) override;
+    FileContent read(const std::string& name) override;
+    FileContent readOrCreate(const std::string& name) override;
     void write(const std::string& name, std::span<const std::string_view> pieces) override;
     void replace(const std::string& name, std::string_view content) override;
     void remove(const std::string& name) override;
@@ -46,7 +46,7 @@ class PosixFiles : public Files {
 
   private:
     int open(const std::string& name, int flags);
-    std::string readAll(const Descriptor& file);
+    FileContent readAll(const Descriptor& file);
 
     Descriptor folder_;
 };

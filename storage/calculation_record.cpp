@@ -127,7 +127,7 @@ void writeRecord(Files& files, const std::string& path, const CalculationRecord&
 }
 
 void readRecord(Files& files, const std::string& path, CalculationRecord& record) {
-    decodeRecord(files.readOrCreate(path), record);
+    decodeRecord(files.readOrCreate(path).view(), record);
 }
 
 void applyCells(const CalculationRecord& record) { setCells(record.state, record.M); }
@@ -152,8 +152,8 @@ void applyVariables(const CalculationRecord& record) {
 }
 
 void restoreCells(Files& files, const std::string& path, CalculatorState& state) {
-    const std::string bytes = files.readOrCreate(path);
-    RecordReader reader(bytes);
+    const FileContent content = files.readOrCreate(path);
+    RecordReader reader(content.view());
     MemoryCells cells;
     for (Text& cell : cells) cell = reader.tagged().value().toText(state.separators());
     setCells(state, cells);

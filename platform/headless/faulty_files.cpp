@@ -7,12 +7,12 @@ void FaultyFiles::failOperation(int n, FileTrouble trouble) {
     trouble_ = trouble;
 }
 
-std::string FaultyFiles::read(const std::string& name) {
+FileContent FaultyFiles::read(const std::string& name) {
     operation();
     return files_.read(name);
 }
 
-std::string FaultyFiles::readOrCreate(const std::string& name) {
+FileContent FaultyFiles::readOrCreate(const std::string& name) {
     operation();
     try {
         return files_.read(name);

@@ -27,8 +27,8 @@ class FaultyFiles : public Files {
     using Files::write;
 
     bool FileExists(std::string_view name) override { return files_.FileExists(name); }
-    std::string read(const std::string& name) override;
-    std::string readOrCreate(const std::string& name) override;
+    FileContent read(const std::string& name) override;
+    FileContent readOrCreate(const std::string& name) override;
     void write(const std::string& name, std::span<const std::string_view> pieces) override;
     void replace(const std::string& name, std::string_view content) override;
     void remove(const std::string& name) override;

@@ -173,7 +173,10 @@ void ScriptRunner::type(TextView text) {
 
 void ScriptRunner::select(const std::string& command, ScriptLine& line) {
     Control& target = control(line);
-    if (command == "focus") return program().keys.run([&] { program().pultform.setFocus(target); });
+    if (command == "focus") {
+        if (target.takesFocus) program().keys.run([&] { program().pultform.setFocus(target); });
+        return;
+    }
     auto* const field = dynamic_cast<TextField*>(&target);
     if (field == nullptr) throw MalformedScript("no text field");
     const auto start = static_cast<std::size_t>(line.number());

@@ -17,7 +17,7 @@ class Bench {
   public:
     explicit Bench(std::int64_t lines)
         : headless_(log_),
-          machine_{headless_, headless_, headless_, files_, headless_, headless_},
+          machine_{headless_, headless_, headless_, files_, headless_, headless_, headless_},
           program_(machine_) {
         program_.show();
         state().undoActive = false;

@@ -73,6 +73,8 @@ class Bench {
         applyVariables(record_);
     }
 
+    void removeSnapshots() { files_.removeAll(".", "temp*.tmp"); }
+
     std::string bytes() {
         std::string all;
         for (const std::string_view piece : EncodedRecord(record_).pieces()) all += piece;
@@ -97,30 +99,39 @@ class Bench {
     CalculationRecord record_;
 };
 
-// A few files, written again and again.
-std::string snapshotName(int turn) { return "temp" + std::to_string(turn % 4) + ".tmp"; }
+std::string snapshotName(int turn) { return "temp" + std::to_string(turn % 8) + ".tmp"; }
+
+// Each turn writes a snapshot of its own, over the file of an earlier one as after undoing, or as a new file
+// as in a running calculation; what stood there is then removed outside of the measured time.
+template <class Write>
+void writeInTurns(benchmark::State& run, Bench& bench, Write write) {
+    const bool newFiles = run.range(1) != 0;
+    int turn = 0;
+    for (auto _ : run) {
+        bench.step(++turn);
+        write(snapshotName(turn));
+        if (!newFiles || turn % 8 != 0) continue;
+        run.PauseTiming();
+        bench.removeSnapshots();
+        run.ResumeTiming();
+    }
+}
 
 void bareWrite(benchmark::State& run) {
     Bench bench(run.range(0));
     const std::string bytes = bench.bytes();
     const std::string folder = bench.path() + '/';
-    int turn = 0;
-    for (auto _ : run) {
-        bench.step(++turn);
-        const int file = ::open((folder + snapshotName(turn)).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    writeInTurns(run, bench, [&](const std::string& name) {
+        const int file = ::open((folder + name).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
         if (::write(file, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) std::abort();
         ::close(file);
-    }
+    });
     run.SetBytesProcessed(run.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 
 void snapshot(benchmark::State& run) {
     Bench bench(run.range(0));
-    int turn = 0;
-    for (auto _ : run) {
-        bench.step(++turn);
-        bench.snapshot(snapshotName(turn));
-    }
+    writeInTurns(run, bench, [&](const std::string& name) { bench.snapshot(name); });
 }
 
 // Reading a snapshot and bringing it to the calculator, in turn one that has the last line and one that lacks
@@ -135,6 +146,6 @@ void back(benchmark::State& run) {
 
 }  // namespace
 
-BENCHMARK(bareWrite)->Arg(100)->Arg(10000)->Arg(100000)->UseRealTime();
-BENCHMARK(snapshot)->Arg(100)->Arg(10000)->Arg(100000)->UseRealTime();
-BENCHMARK(back)->Arg(100)->Arg(10000)->Arg(100000)->UseRealTime();
+BENCHMARK(bareWrite)->ArgNames({"lines", "new"})->ArgsProduct({{100, 10000, 100000}, {0, 1}});
+BENCHMARK(snapshot)->ArgNames({"lines", "new"})->ArgsProduct({{100, 10000, 100000}, {0, 1}});
+BENCHMARK(back)->ArgName("lines")->Arg(100)->Arg(10000)->Arg(100000);

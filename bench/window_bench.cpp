@@ -78,8 +78,8 @@ class Desk {
             xcb_get_image(screen_, XCB_IMAGE_FORMAT_Z_PIXMAP, root_, static_cast<std::int16_t>(corner.x()),
                           static_cast<std::int16_t>(corner.y()), 90, 50, ~0u),
             nullptr);
-        const std::string bytes(reinterpret_cast<const char*>(xcb_get_image_data(image)),
-                                static_cast<std::size_t>(xcb_get_image_data_length(image)));
+        std::string bytes(reinterpret_cast<const char*>(xcb_get_image_data(image)),
+                          static_cast<std::size_t>(xcb_get_image_data_length(image)));
         std::free(image);
         return bytes;
     }
@@ -96,7 +96,7 @@ class Desk {
 void keyToPaintedLine(benchmark::State& run) {
     Desk desk(run.range(0));
     double longest = 0;
-    for (auto _ : run) {
+    for ([[maybe_unused]] auto _ : run) {
         const double seconds = desk.secondsToPaintedLine();
         longest = std::max(longest, seconds);
         run.SetIterationTime(seconds);
@@ -115,7 +115,7 @@ BENCHMARK(keyToPaintedLine)
 void processorTimeOfAKey(benchmark::State& run) {
     Desk desk(run.range(0));
     bool digit = false;
-    for (auto _ : run) desk.type((digit = !digit) ? keys::keypad1 : keys::keypadAdd);
+    for ([[maybe_unused]] auto _ : run) desk.type((digit = !digit) ? keys::keypad1 : keys::keypadAdd);
 }
 BENCHMARK(processorTimeOfAKey)
     ->Arg(0)

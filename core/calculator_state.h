@@ -94,6 +94,10 @@ struct CalculatorState {
     CalcValue taxDivisor, taxGross, taxNet, taxAmount;
     bool cellEnterTransfer = false, memoryConfirmOff = false;
 
+    // Settings.
+    float separatorChoice = 0;  // 1 comma, 2 point, 0 not asked
+    bool localeUnknown = false;
+    int textColourScheme = 5, backColourScheme = 1;
     int windowMode = 0;
 
     Calls calls;

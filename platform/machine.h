@@ -3,6 +3,7 @@
 
 #include "platform/boxes.h"
 #include "platform/files.h"
+#include "platform/system.h"
 #include "platform/text.h"
 #include "platform/window.h"
 
@@ -25,8 +26,8 @@ class ModalWindows {
   public:
     virtual ~ModalWindows() = default;
 
-    // Shows the window, tells it by onActivate, and returns when it is no longer visible. No other window takes keys
-    // or the mouse meanwhile.
+    // Shows the window, tells it by onActivate, and returns when it is no longer visible. No other window
+    // takes keys or the mouse meanwhile.
     virtual void showModal(Window& window) = 0;
 };
 
@@ -45,6 +46,7 @@ struct Machine {
     Files& files;
     ModalWindows& windows;
     Process& process;
+    System& system;
 };
 
 }  // namespace zifferon

@@ -18,6 +18,7 @@ int main(int argc, char** argv) {
     zifferon::QtMachine machine;
     zifferon::Program program(machine.machine);
     zifferon::FormView view(program.pultform, program.keys);
+    program.chooseSeparator();
     program.show();
     program.beginSnapshots();
     view.refresh();

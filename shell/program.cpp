@@ -6,7 +6,10 @@
 #include "core/rounding.h"
 #include "core/special_rounding.h"
 #include "memory/message_window.h"
+#include "shell/colour_schemes.h"
+#include "shell/locale.h"
 #include "shell/send_keys.h"
+#include "shell/settings_files.h"
 
 namespace zifferon {
 
@@ -28,6 +31,15 @@ Program::Program(Machine& machine)
 void Program::show() {
     pultform.visible = true;
     pultform.setFocus(pultform.state.eingabe);
+}
+
+void Program::chooseSeparator() {
+    CalculatorState& s = pultform.state;
+    const DecimalSeparator separator = separatorOfLocale(machine_.system.GetDecStyle());
+    s.decimalPointStyle = separator == DecimalSeparator::point ? 1 : 0;
+    s.localeUnknown = separator == DecimalSeparator::unknown;
+    if (!s.localeUnknown) return;
+    storing(settingsFile::decimalSeparator, [&] { settleSeparator(s, machine_.files, machine_.boxes); });
 }
 
 void Program::beginSnapshots() {
@@ -76,12 +88,61 @@ void Program::wireCalls() {
 }
 
 void Program::wireCommands() {
+    CalculatorState& s = pultform.state;
     CommandCalls& calls = commands_.calls;
     calls.applyUndo = [this] { undo_.applyUndo(); };
-    calls.quit = calls.printTape = calls.nextWindowMode = [] {};
-    calls.nextTextColours = calls.nextBackColours = calls.standardColours = [] {};
-    calls.writeFormatMode = calls.askSeparator = [] {};
-    calls.writeStartOptions = [](bool) {};
+    calls.quit = [this] { machine_.process.end(); };
+    calls.printTape = calls.nextWindowMode = [] {};
+    calls.nextTextColours = [this, &s] { stepTextColours(nextTextScheme(s.textColourScheme)); };
+    calls.nextBackColours = [this, &s] { stepBackColours(nextBackScheme(s.backColourScheme)); };
+    calls.standardColours = [this] {
+        stepBackColours(standardBackScheme);
+        stepTextColours(standardTextScheme);
+    };
+    calls.writeFormatMode = [this, &s] { store(settingsFile::format, s.formatMode); };
+    calls.askSeparator = [this, &s] {
+        storing(settingsFile::decimalSeparator, [&] { askSeparator(s, machine_.files, machine_.boxes); });
+    };
+    calls.writeStartOptions = [this, &s](bool minimised) {
+        storing("winstate.dat", [&] {
+            writeStartOptions(machine_.files,
+                              {.position = StartOptions::Position{pultform.place.left, pultform.place.top},
+                               .windowMode = s.windowMode,
+                               .minimised = minimised});
+        });
+    };
+}
+
+void Program::stepTextColours(int scheme) {
+    pultform.state.textColourScheme = scheme;
+    store(settingsFile::textColours, static_cast<float>(scheme));
+    applyTextScheme(pultform, scheme);
+}
+
+void Program::stepBackColours(int scheme) {
+    pultform.state.backColourScheme = scheme;
+    store(settingsFile::backColours, static_cast<float>(scheme));
+    applyBackScheme(pultform, scheme);
+}
+
+void Program::store(const std::string& file, float value) {
+    storing(file, [&] { writeSingle(machine_.files, file, value); });
+}
+
+// A setting that cannot be written holds for the run, and a box names the file.
+void Program::storing(const std::string& file, const std::function<void()>& write) {
+    try {
+        write();
+    } catch (const FileFailure&) {
+        const CalculatorState& s = pultform.state;
+        machine_.boxes.show(
+            {.icon = BoxIcon::warning,
+             .title = u"Zifferon PRO 5.0",
+             .text =
+                 fromUtf8(file) + Text(s.inLanguage(u": Die Einstellung konnte nicht gespeichert werden.   ",
+                                                    u": The setting could not be saved.   ")),
+             .english = s.languageEnglish});
+    }
 }
 
 void Program::wireEntry() {

@@ -17,6 +17,9 @@ class Program {
     Pultform pultform;
     KeyRoad keys;
 
+    // Comma or point, by the user's locale; where it does not tell, by an earlier answer or by asking.
+    void chooseSeparator();
+
     // Shows the main window and gives the entry line the focus.
     void show();
 
@@ -32,6 +35,8 @@ class Program {
     void wireOptions();
     void publishSubtotal();
     void showNothingToUndo();
+    void store(const std::string& file, float value);
+    void storing(const std::string& file, const std::function<void()>& write);
     void stepTextColours(int scheme);
     void stepBackColours(int scheme);
 

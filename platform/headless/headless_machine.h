@@ -17,9 +17,18 @@ namespace zifferon {
 // Thrown through the handlers when the program ends itself.
 class ProcessEnded : public std::exception {};
 
-class HeadlessMachine : public Boxes, public Clipboard, public Sound, public ModalWindows, public Process {
+class HeadlessMachine : public Boxes,
+                        public Clipboard,
+                        public Sound,
+                        public ModalWindows,
+                        public Process,
+                        public System {
   public:
     explicit HeadlessMachine(std::ostream& log) : log_(log) {}
+
+    // What the system answers.
+    std::string localeCode = "00000407", windowsStyle, systemName = "Windows XP";
+    int captionPixels = 19;
 
     // One of yes, no, ok, cancel; the next box without an answer of its own takes it.
     void queueAnswer(BoxAnswer answer) { answers_.push_back(answer); }
@@ -37,6 +46,10 @@ class HeadlessMachine : public Boxes, public Clipboard, public Sound, public Mod
     void beep() override;
     void showModal(Window& window) override;
     [[noreturn]] void end() override;
+    std::string GetDecStyle() const override { return localeCode; }
+    std::string GetWindowsStyle() const override { return windowsStyle; }
+    std::string GetSystemName() const override { return systemName; }
+    int captionHeight() const override { return captionPixels; }
 
   private:
     struct Due {

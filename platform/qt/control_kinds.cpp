@@ -83,7 +83,8 @@ class Panel : public QWidget {
         QPainter painter(this);
         const QRect text = painter.fontMetrics().boundingRect(caption_);
         const int lineHeight = painter.fontMetrics().height();
-        const QRectF line = QRectF(rect()).adjusted(0.5, lineHeight / 2 + 0.5, -0.5, -0.5);
+        const int top = lineHeight / 2;
+        const QRectF line = QRectF(rect()).adjusted(0.5, top + 0.5, -0.5, -0.5);
         const QColor ground = palette().color(QPalette::Window);
         const auto outline = [&](const QColor& colour, const QRectF& where) {
             painter.setPen(colour);

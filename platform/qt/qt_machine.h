@@ -3,6 +3,7 @@
 
 #include "platform/machine.h"
 #include "platform/posix_files.h"
+#include "platform/posix_system.h"
 #include "platform/qt/modal_windows.h"
 
 namespace zifferon {
@@ -36,9 +37,10 @@ class QtMachine {
     PosixFiles files_;
     QtModalWindows windows_{sound_};
     QtProcess process_;
+    PosixSystem system_;
 
   public:
-    Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_};
+    Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_, system_};
 };
 
 }  // namespace zifferon

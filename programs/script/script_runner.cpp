@@ -7,12 +7,14 @@
 #include "programs/script/decimal_command.h"
 #include "programs/script/script_keys.h"
 #include "programs/script/script_names.h"
+#include "shell/settings_files.h"
 
 namespace zifferon {
 
 ScriptRunner::ScriptRunner(std::ostream& out, std::ostream& errors)
     : out_(out), errors_(errors), headless_(out), files_(disk_), machine_{headless_, headless_, headless_,
-                                                                          files_,    headless_, headless_} {}
+                                                                          files_,    headless_, headless_,
+                                                                          headless_} {}
 
 int ScriptRunner::run(std::istream& script) {
     std::string line;
@@ -125,7 +127,16 @@ void ScriptRunner::setMachine(ScriptLine& line) {
     const std::string key = line.word();
     if (key == "writable") return files_.writable(line.word() != "no");
     if (key == "diskfull") return files_.diskFull(line.word() == "yes");
-    throw MalformedScript("unknown property of the machine: " + key);
+    if (key == "locale")
+        headless_.localeCode = toUtf8(line.quotedText());
+    else if (key == "style")
+        headless_.windowsStyle = toUtf8(line.quotedText());
+    else if (key == "system")
+        headless_.systemName = toUtf8(line.quotedText());
+    else if (key == "caption")
+        headless_.captionPixels = static_cast<int>(line.number());
+    else
+        throw MalformedScript("unknown property of the machine: " + key);
 }
 
 void ScriptRunner::fresh(ScriptLine& line) {
@@ -146,6 +157,7 @@ void ScriptRunner::fresh(ScriptLine& line) {
     }
     applyFormatMode(s);
     files_.replace("quicksave.zfr", "");
+    writeSingle(files_, settingsFile::language, s.languageEnglish ? 1.0F : 0.0F);
     program_->show();
     program_->beginSnapshots();
 }

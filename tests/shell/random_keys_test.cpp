@@ -86,7 +86,7 @@ class RandomKeys : public testing::TestWithParam<unsigned> {
     std::ostringstream log_;
     HeadlessMachine headless_{log_};
     PosixFiles files_{folder_};
-    Machine machine_{headless_, headless_, headless_, files_, headless_, headless_};
+    Machine machine_{headless_, headless_, headless_, files_, headless_, headless_, headless_};
     Program program_{machine_};
     std::mt19937 random_;
 };

@@ -1,0 +1,57 @@
+#include "platform/posix_system.h"
+
+#ifdef ZIFFERON_WITH_ICU
+
+#include <unicode/uloc.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+namespace zifferon {
+
+namespace {
+
+// The user's locale for numbers, without code set and modifier: "de_DE" of "de_DE.UTF-8@euro".
+std::string numberLocale() {
+    for (const char* variable : {"LC_ALL", "LC_NUMERIC", "LANG"}) {
+        const char* value = std::getenv(variable);
+        if (value == nullptr || *value == '\0') continue;
+        const std::string locale = value;
+        return locale.substr(0, locale.find_first_of(".@"));
+    }
+    return "";
+}
+
+// The lower ten bits of an identifier are the language, the upper ones the country: 0 none, 1 its main one.
+constexpr std::uint32_t mainCountry = 0x0400;
+constexpr std::uint32_t noLanguage = 0x007F;
+
+}  // namespace
+
+std::string PosixSystem::GetDecStyle() const {
+    const std::string locale = numberLocale();
+    if (locale.empty() || locale == "C" || locale == "POSIX") return "";
+    std::uint32_t identifier = uloc_getLCID(locale.c_str());
+    if (identifier == 0 || identifier == noLanguage) return "";
+    if (identifier < mainCountry) {
+        if (locale.find('_') != std::string::npos) return "";
+        identifier |= mainCountry;
+    }
+    std::array<char, 9> digits;
+    std::snprintf(digits.data(), digits.size(), "%08X", static_cast<unsigned>(identifier));
+    return digits.data();
+}
+
+}  // namespace zifferon
+
+#else
+
+namespace zifferon {
+
+std::string PosixSystem::GetDecStyle() const { return ""; }
+
+}  // namespace zifferon
+
+#endif

@@ -1,0 +1,22 @@
+// The system as a POSIX environment tells it.
+#pragma once
+
+#include "platform/system.h"
+
+namespace zifferon {
+
+class PosixSystem : public System {
+  public:
+    // From LC_ALL, LC_NUMERIC or LANG, the first that is not empty. A language without a country stands for
+    // its main country ("de" for Germany), as such an identifier does on Windows. "" for C and POSIX, for a
+    // pair of language and country without an identifier ("en_DE"), and in a program built without ICU, which
+    // knows the identifiers.
+    std::string GetDecStyle() const override;
+
+    // Layouts are designed for the classic frame, which Window takes as given: no correction of any height.
+    std::string GetWindowsStyle() const override { return "classic"; }
+    std::string GetSystemName() const override { return "Unbekanntes Betriebssystem"; }
+    int captionHeight() const override { return 19; }
+};
+
+}  // namespace zifferon

@@ -1,0 +1,30 @@
+// The comma or the point: which one the user's locale has, and the question where that is not known.
+#pragma once
+
+#include <string_view>
+
+#include "core/calculator_state.h"
+#include "platform/boxes.h"
+#include "platform/files.h"
+#include "platform/system.h"
+
+namespace zifferon {
+
+enum class DecimalSeparator { comma, point, unknown };
+
+// Looks up a Windows locale identifier as eight hexadecimal digits, letter case free. Whatever else the text
+// is, it is unknown.
+DecimalSeparator separatorOfLocale(std::string_view code);
+
+// Settles decimalPointStyle for a locale that is unknown: by decpoint.dat, or by a question whose answer is
+// stored there. Throws FileFailure; the style is set when only the storing failed.
+void settleSeparator(CalculatorState& state, Files& files, Boxes& boxes);
+
+// Asks for the separator during the run, in the language of language.dat. The answer holds at once and is
+// stored in decpoint.dat. Throws FileFailure; the style is set when only the storing failed.
+void askSeparator(CalculatorState& state, Files& files, Boxes& boxes);
+
+// Whether the desktop's window frames need the taller layouts.
+bool hasModernFrame(const System& system);
+
+}  // namespace zifferon

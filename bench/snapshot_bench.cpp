@@ -76,8 +76,9 @@ class Bench {
     void removeSnapshots() { files_.removeAll(".", "temp*.tmp"); }
 
     std::string bytes() {
+        const EncodedRecord encoded(record_);
         std::string all;
-        for (const std::string_view piece : EncodedRecord(record_).pieces()) all += piece;
+        for (const std::string_view piece : encoded.pieces()) all += piece;
         return all;
     }
 

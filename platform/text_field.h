@@ -78,9 +78,6 @@ class TextField : public Control {
 
     std::function<void()> onChange;
 
-    // What a follower of the one view would tell.
-    std::size_t takeUnchangedPrefix() { return view_.takeUnchangedPrefix(); }
-
   private:
     friend class TextFollower;
 
@@ -92,7 +89,6 @@ class TextField : public Control {
     std::size_t caret_ = 0;
     std::size_t selection_ = 0;
     std::vector<TextFollower*> followers_;
-    TextFollower view_{*this};
 };
 
 }  // namespace zifferon

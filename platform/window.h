@@ -29,7 +29,9 @@ class Window {
     bool framed = true;  // whether the system draws a frame and a title around it
 
     std::function<void()> onActivate;  // it has become the one in use
-    std::function<void()> onDismiss;   // the user closes it by other means than its controls
+    std::function<Text(TextView)>
+        onPaste;                      // the characters to be typed for a pasted text; none: the text itself
+    std::function<void()> onDismiss;  // the user closes it by other means than its controls
 
     // Later controls lie above earlier ones.
     void add(Control& control, TextView controlName);

@@ -34,7 +34,10 @@ constexpr std::array<std::uint16_t, 102> pointLocales = {
 
 constexpr float commaChoice = 1, pointChoice = 2;  // in decpoint.dat
 
-void take(CalculatorState& state, float choice) { state.decimalPointStyle = choice == pointChoice ? 1 : 0; }
+void take(CalculatorState& state, float choice) {
+    state.separatorChoice = choice;
+    state.decimalPointStyle = choice == pointChoice ? 1 : 0;
+}
 
 // The opening lines tell why is asked; the rest is the same at the start and during the run.
 constexpr TextView germanOpeningAtStart =

@@ -8,6 +8,7 @@
 #include "memory/message_window.h"
 #include "shell/colour_schemes.h"
 #include "shell/locale.h"
+#include "shell/pasted_text.h"
 #include "shell/send_keys.h"
 #include "shell/settings_files.h"
 
@@ -156,6 +157,7 @@ void Program::wireEntry() {
 
 void Program::wireFields() {
     CalculatorState& s = pultform.state;
+    pultform.onPaste = [&s](TextView pasted) { return keysOfPastedText(pasted, s.separators()); };
     s.anzeige.onChange = [this, &s] {
         undo_.anzeigeChanged();
         s.anzeige.caretToEnd();

@@ -88,7 +88,7 @@ EncodedRecord::EncodedRecord(const CalculationRecord& record) {
     visitFields(record, FieldWriter{short_, longTextAt_.data(), longText_.data()});
 }
 
-std::array<std::string_view, 5> EncodedRecord::pieces() const {
+std::array<std::string_view, 5> EncodedRecord::pieces() const& {
     const std::string_view all = short_.bytes();
     const auto [tapeAt, printCopyAt] = longTextAt_;
     return {all.substr(0, tapeAt), longText_[0], all.substr(tapeAt, printCopyAt - tapeAt), longText_[1],
@@ -123,7 +123,8 @@ void decodeRecord(std::string_view bytes, CalculationRecord& record) {
 }
 
 void writeRecord(Files& files, const std::string& path, const CalculationRecord& record) {
-    files.write(path, EncodedRecord(record).pieces());
+    const EncodedRecord encoded(record);
+    files.write(path, encoded.pieces());
 }
 
 void readRecord(Files& files, const std::string& path, CalculationRecord& record) {

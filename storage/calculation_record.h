@@ -42,7 +42,8 @@ class EncodedRecord {
   public:
     explicit EncodedRecord(const CalculationRecord& record);
 
-    std::array<std::string_view, 5> pieces() const;
+    std::array<std::string_view, 5> pieces() const&;
+    std::array<std::string_view, 5> pieces() const&& = delete;  // would outlive what they show
 
   private:
     RecordWriter short_;                       // all but the characters of the long texts

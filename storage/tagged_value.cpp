@@ -20,6 +20,8 @@ template <class... Cases>
 struct Overloaded : Cases... {
     using Cases::operator()...;
 };
+template <class... Cases>
+Overloaded(Cases...) -> Overloaded<Cases...>;
 
 template <class Unsigned>
 Unsigned little(std::string_view bytes) {
@@ -131,11 +133,9 @@ TaggedBytes RecordReader::tagged() {
             return {};
         case integer16:
             return {type, take(2)};
-        case integer32:
-        case single:
-            return {type, take(4)};
-        case floating:
-            return {type, take(8)};
+        case integer32: return {type, take(4)};
+        case single: return checked({type, take(4)}, [](auto content) { return std::isfinite(singleOf(content)); });
+        case floating: return checked({type, take(8)}, [](auto content) { return std::isfinite(doubleOf(content)); });
         case text: {
             std::size_t length = little<std::uint16_t>(take(2));
             if (length == longLength) length = little<std::uint32_t>(take(4));

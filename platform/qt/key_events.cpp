@@ -88,9 +88,7 @@ std::optional<Key> typedKey(QChar character) {
     return keyOfCharacter(character.unicode());
 }
 
-bool isLineEndOrTab(QChar character) {
-    return character == u'\r' || character == u'\n' || character == u'\t';
-}
+bool isLineEnd(QChar character) { return character == u'\r' || character == u'\n'; }
 
 }  // namespace
 
@@ -137,7 +135,7 @@ bool KeyEvents::eventFilter(QObject* receiver, QEvent* event) {
             break;
         case QEvent::MouseButtonPress:
             if (static_cast<QMouseEvent&>(*event).button() != Qt::MiddleButton) return false;
-            type(QGuiApplication::clipboard()->text(QClipboard::Selection));
+            paste(QGuiApplication::clipboard()->text(QClipboard::Selection));
             break;
         default:
             return false;
@@ -156,7 +154,7 @@ void KeyEvents::keyPressed(const QKeyEvent& event) {
                                       [](const auto& held) { return held.second.code == keyCode::alt; });
         if (alt != held_.end()) letGoOf(alt->first);
     }
-    if (isPaste(event)) return type(QGuiApplication::clipboard()->text());
+    if (isPaste(event)) return paste(QGuiApplication::clipboard()->text());
     if (commandModifiers(event) == Qt::AltModifier && event.key() != Qt::Key_Alt) {
         if (Control* const control = accessControl(event.text())) press_(*control);
         return;
@@ -181,15 +179,16 @@ void KeyEvents::letGoOf(quint32 scanCode) {
     keys_.keyUp(key);
 }
 
-// Line ends and tabs between figures are Enter, as they end an entry; those behind the last one are left out,
-// so that a copied cell or line waits for the user's own key.
-void KeyEvents::type(QString text) {
-    while (!text.isEmpty() && isLineEndOrTab(text.back())) text.chop(1);
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    for (const QChar character : std::as_const(text)) {
-        if (const auto key = isLineEndOrTab(character) ? keyOfCharacter(13) : typedKey(character)) {
+void KeyEvents::paste(const QString& text) {
+    if (!window_.onPaste) return type(text);
+    const std::u16string pasted = text.toStdU16String();
+    type(QString::fromStdU16String(window_.onPaste(pasted)));
+}
+
+void KeyEvents::type(const QString& text) {
+    for (const QChar character : text) {
+        if (const auto key = isLineEnd(character) ? keyOfCharacter(13) : typedKey(character))
             keys_.stroke(*key);
-        }
     }
     refresh_();
 }

@@ -28,7 +28,8 @@ class KeyEvents : public QObject {
     void keyPressed(const QKeyEvent& event);
     void keyReleased(const QKeyEvent& event);
     void letGoOf(quint32 scanCode);
-    void type(QString text);
+    void paste(const QString& text);
+    void type(const QString& text);
     Control* accessControl(const QString& typed) const;
 
     QWidget& form_;

@@ -1,0 +1,296 @@
+#include "storage/calculation_record.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "platform/headless/faulty_files.h"
+#include "platform/posix_files.h"
+#include "platform/windows1252.h"
+#include "tests/support/fresh_folder.h"
+
+namespace zifferon {
+namespace {
+
+// A calculator with its record.
+struct Desk {
+    CalculatorState state;
+    CalculationRecord record{state};
+
+    // In the middle of a chain, every field filled.
+    void fill() {
+        for (std::size_t i = 0; i < state.memo.size(); ++i) state.memo[i].setText(Text(i, u'4'));
+        state.anzeige.setText(u"\r\n12,50      ");
+        state.zwischen.setText(u"12,50");
+        state.txtop.setText(u"÷");
+        state.eingabe.setText(u"3");
+        state.superdruck.setText(u"\r\n12,50 ");
+        state.operand = Decimal::fromParts(1250, 0, 0, 2, false);
+        state.chainActive = 1;
+        state.pendingOpCode = 47;
+        state.tapeClearArmed = true;
+        state.Checkob.placeTick(true);
+        state.clipcheck.placeTick(true);
+        record.recordRoundingTick = 1;
+        record.recordRoundingCaption = u"&RND 3";
+    }
+
+    std::string gathered() {
+        gatherRecord(record);
+        gatherSwitches(record);
+        return encoded();
+    }
+
+    std::string encoded() const {
+        const EncodedRecord encodedRecord(record);
+        std::string bytes;
+        for (const std::string_view piece : encodedRecord.pieces()) bytes += piece;
+        return bytes;
+    }
+
+    void apply() {
+        applyCells(record);
+        applyFields(record);
+        applyVariables(record);
+    }
+};
+
+std::string filledBytes() {
+    Desk desk;
+    desk.fill();
+    return desk.gathered();
+}
+
+TEST(CalculationRecord, hasItsFieldsInTheirOrder) {
+    EXPECT_EQ(toHex(filledBytes()),
+              "08 00 00 00 08 00 01 00 34 08 00 02 00 34 34 08 00 03 00 34 34 34 08 00 04 00 34 34 34 34 "
+              "08 00 0D 00 0D 0A 31 32 2C 35 30 20 20 20 20 20 20 "
+              "08 00 05 00 31 32 2C 35 30 08 00 01 00 F7 08 00 01 00 33 "
+              "08 00 08 00 0D 0A 31 32 2C 35 30 20 "
+              "00 00 00 00 00 00 F0 3F 00 00 00 00 "
+              "0E 00 02 00 00 00 00 00 E2 04 00 00 00 00 00 00 02 00 01 00 02 00 2F 00 "
+              "00 00 80 3F 00 00 00 00 00 00 80 3F 00 00 80 3F 08 00 06 00 26 52 4E 44 20 33");
+}
+
+TEST(CalculationRecord, bringsACalculationBackWithItsTypes) {
+    const FreshFolder folder;
+    PosixFiles files(folder.path());
+    Text tape;
+    while (tape.size() < 300000) tape += u"\r\n « « 1.234,56 ÷   ";
+    for (const CalcValue& operand : {CalcValue(), CalcValue(43), CalcValue(70000), CalcValue(0.1),
+                                     CalcValue(u"12,5"), CalcValue(Decimal::fromParts(1, 2, 3, 28, true))}) {
+        Desk one, other;
+        one.fill();
+        one.state.anzeige.setText(tape);
+        one.state.operand = operand;
+        one.state.pendingOpCode = u"61";
+        one.state.chainTotalled = true;
+        gatherRecord(one.record);
+        writeRecord(files, "a.sav", one.record);
+
+        readRecord(files, "a.sav", other.record);
+        other.apply();
+        EXPECT_EQ(other.state.memo[4].text(), u"4444");
+        EXPECT_TRUE(other.state.anzeige.text() == tape);
+        EXPECT_EQ(other.state.txtop.text(), u"÷");
+        EXPECT_EQ(other.state.superdruck.text(), one.state.superdruck.text());
+        EXPECT_EQ(other.state.eingabe.caret(), 1U);
+        EXPECT_EQ(describe(other.state.operand), describe(operand));
+        EXPECT_EQ(describe(other.state.chainActive), "int 1");
+        EXPECT_EQ(describe(other.state.pendingOpCode), "text \"61\"");
+        EXPECT_TRUE(other.state.chainTotalled);
+        EXPECT_TRUE(other.state.tapeClearArmed);
+        EXPECT_FALSE(other.state.Checkob.ticked());
+        EXPECT_EQ(describe(other.record.recordRoundingCaption), "text \"&RND 3\"");
+    }
+}
+
+TEST(CalculationRecord, isEmptyInAnEmptyFile) {
+    const FreshFolder folder;
+    PosixFiles files(folder.path());
+    Desk desk;
+    desk.fill();
+    desk.gathered();
+    readRecord(files, "quicksave.zfr", desk.record);
+    desk.apply();
+    EXPECT_EQ(folder.bytes("quicksave.zfr"), "");
+    EXPECT_TRUE(folder.has("quicksave.zfr"));
+    EXPECT_EQ(desk.state.memo[4].text(), u"");
+    EXPECT_EQ(desk.state.anzeige.text(), u"");
+    EXPECT_EQ(desk.state.zwischen.text(), u"");
+    EXPECT_TRUE(desk.state.operand.isNothing());
+    EXPECT_TRUE(desk.state.tapeClearArmed);
+    EXPECT_EQ(desk.record.recordAlwaysOnTop, 1);
+    EXPECT_EQ(desk.record.recordRoundingTick, 1);
+    EXPECT_TRUE(desk.record.recordRoundingCaption.isNothing());
+}
+
+TEST(CalculationRecord, readsInFrontOfTheTailOfALongerOne) {
+    const FreshFolder folder;
+    PosixFiles files(folder.path());
+    Desk desk;
+    desk.fill();
+    desk.gathered();
+    writeRecord(files, "a.sav", desk.record);
+    desk.state.anzeige.setText(u"");
+    const std::string shorter = desk.gathered();
+    writeRecord(files, "a.sav", desk.record);
+    EXPECT_EQ(folder.bytes("a.sav").size(), filledBytes().size());
+    EXPECT_TRUE(folder.bytes("a.sav").starts_with(shorter));
+
+    Desk other;
+    readRecord(files, "a.sav", other.record);
+    EXPECT_EQ(other.encoded(), shorter);
+}
+
+TEST(CalculationRecord, takesANumberInThePlaceOfATextAsItsText) {
+    Desk desk;
+    const std::string number = fromHex("05 00 00 00 00 00 00 00 04 40");
+    std::string file;
+    for (int i = 0; i < 10; ++i) file += number;
+    decodeRecord(file, desk.record);
+    desk.apply();
+    for (const TextField* field : {&desk.state.memo[0], &desk.state.anzeige, &desk.state.zwischen,
+                                   &desk.state.txtop, &desk.state.eingabe, &desk.state.superdruck}) {
+        EXPECT_EQ(field->text(), u"2,5");
+    }
+}
+
+// Decodes bytes of any kind; a failure must leave the record as it was. Returns whether they could be
+// decoded.
+bool decodesOrStays(std::string_view bytes) {
+    Desk desk;
+    desk.state.anzeige.setText(u"before");
+    desk.state.operand = 1;
+    const std::string before = desk.gathered();
+    try {
+        decodeRecord(bytes, desk.record);
+    } catch (const RecordFailure&) {
+        EXPECT_EQ(desk.encoded(), before);
+        return false;
+    }
+    desk.apply();
+    return true;
+}
+
+TEST(CalculationRecord, cutAnywhereIsAFailureExceptBetweenFields) {
+    const std::string whole = filledBytes();
+    int decodable = 0;
+    for (std::size_t size = 0; size <= whole.size(); ++size)
+        decodable += decodesOrStays(whole.substr(0, size));
+    EXPECT_EQ(decodable, 21);
+}
+
+TEST(CalculationRecord, survivesEveryFlippedByteAndRandomOnes) {
+    const std::string whole = filledBytes();
+    for (std::size_t at = 0; at < whole.size(); ++at) {
+        for (const int mask : {0x01, 0x08, 0x80, 0xFF}) {
+            std::string flipped = whole;
+            flipped[at] = static_cast<char>(flipped[at] ^ mask);
+            decodesOrStays(flipped);
+        }
+    }
+    std::mt19937 random(1);
+    for (int turn = 0; turn < 20000; ++turn) {
+        std::string bytes = whole;
+        for (unsigned hits = random() % 8 + 1; hits > 0; --hits) {
+            // Small numbers are type words and lengths, and lead further than any others.
+            bytes[random() % bytes.size()] = static_cast<char>(random() % 2 == 0 ? random() : random() % 16);
+        }
+        decodesOrStays(bytes);
+    }
+}
+
+TEST(CalculationRecord, restoresTheCellsAlone) {
+    const FreshFolder folder;
+    PosixFiles files(folder.path());
+    Desk desk;
+    desk.fill();
+    const std::string cells = desk.gathered().substr(0, 30);
+    desk.state.memo[0].setText(u"99");
+
+    folder.put("temp0.tmp", cells.substr(0, 29));
+    EXPECT_THROW(restoreCells(files, "temp0.tmp", desk.state), RecordFailure);
+    EXPECT_EQ(desk.state.memo[0].text(), u"99");
+
+    folder.put("temp0.tmp", cells + "damaged behind the cells");
+    restoreCells(files, "temp0.tmp", desk.state);
+    EXPECT_EQ(desk.state.memo[0].text(), u"");
+    EXPECT_EQ(desk.state.memo[4].text(), u"4444");
+    EXPECT_EQ(desk.state.zwischen.text(), u"12,50");
+}
+
+TEST(CalculationRecord, isUnharmedByAFailingFile) {
+    const FreshFolder folder;
+    PosixFiles disk(folder.path());
+    FaultyFiles files(disk);
+    Desk desk;
+    desk.fill();
+    desk.gathered();
+    writeRecord(files, "a.sav", desk.record);
+    desk.state.eingabe.setText(u"45");
+    const std::string now = desk.gathered();
+    for (int n = 1;; ++n) {
+        files.failOperation(n);
+        bool failed = false;
+        try {
+            writeRecord(files, "b.sav", desk.record);
+            readRecord(files, "a.sav", desk.record);
+        } catch (const FileFailure&) {
+            failed = true;
+            EXPECT_EQ(desk.encoded(), now);
+        }
+        EXPECT_EQ(failed, files.faultMet());
+        if (!failed) break;
+        ASSERT_LT(n, 10);
+    }
+    EXPECT_EQ(desk.encoded(), filledBytes());
+    EXPECT_EQ(folder.bytes("b.sav"), now);
+}
+
+// Whatever happens to a field between two snapshots, its bytes are those of the whole text; and whatever
+// bytes are read, the field gets the whole text of them.
+TEST(EncodedText, followsItsFieldThroughAllChanges) {
+    std::mt19937 random(7);
+    TextField field;
+    EncodedText encoded(field);
+    std::vector<std::string> earlier{""};
+    const auto someText = [&] { return Text(random() % 200, static_cast<char16_t>(u'a' + random() % 3)); };
+    for (int turn = 0; turn < 5000; ++turn) {
+        switch (random() % 8) {
+            case 0:
+                field.setText(someText());
+                break;
+            case 1:
+                field.setTextFrom(random() % (field.text().size() + 1), someText());
+                break;
+            case 2:
+                field.setCaret(random() % (field.text().size() + 1));
+                field.typeCharacter(random() % 2 == 0 ? u'\b' : u'«');
+                break;
+            case 3:
+                encoded.setBytes(earlier[random() % earlier.size()]);
+                if (random() % 2 == 0) encoded.writeToField();
+                break;
+            default:
+                field.append(u"12 ÷");
+                break;
+        }
+        if (random() % 3 == 0) continue;
+        encoded.takeFromField();
+        std::string whole(field.text().size(), '\0');
+        encodeWindows1252(field.text(), whole.data());
+        ASSERT_EQ(encoded.bytes(), whole);
+        earlier.push_back(whole);
+
+        const std::string& other = earlier[random() % earlier.size()];
+        encoded.setBytes(other);
+        encoded.writeToField();
+        Text text(other.size(), u'\0');
+        decodeWindows1252(other, text.data());
+        ASSERT_EQ(field.text(), text);
+    }
+}
+
+}  // namespace
+}  // namespace zifferon

@@ -1,0 +1,174 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <functional>
+#include <optional>
+
+#include "platform/headless/faulty_files.h"
+#include "platform/posix_files.h"
+#include "tests/support/fresh_folder.h"
+
+namespace zifferon {
+namespace {
+
+// What goes wrong in `action`, or nothing.
+std::optional<FileTrouble> troubleIn(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const FileFailure& failure) {
+        return failure.trouble();
+    }
+    return std::nullopt;
+}
+
+class FilesTest : public testing::Test {
+  protected:
+    FreshFolder folder;
+    PosixFiles files{folder.path()};
+};
+
+TEST_F(FilesTest, writeFromTheStartAndNeverTruncate) {
+    files.write("a", "12345678");
+    files.write("a", "ab");
+    EXPECT_EQ(folder.bytes("a"), "ab345678");
+    files.replace("a", "x");
+    EXPECT_EQ(folder.bytes("a"), "x");
+    const std::vector<std::string_view> pieces = {"one ", "",  "two ", "3", "4", "5",
+                                                  "6",    "7", "8",    "9", "",  "0"};
+    files.write("a", pieces);
+    EXPECT_EQ(folder.bytes("a"), "one two 34567890");
+    files.write((folder / "b").string(), "absolute");
+    EXPECT_EQ(folder.bytes("b"), "absolute");
+}
+
+TEST_F(FilesTest, readingCreatesOnlyWhereItIsAskedFor) {
+    EXPECT_EQ(troubleIn([&] { files.read("a"); }), FileTrouble::missing);
+    EXPECT_FALSE(folder.has("a"));
+    EXPECT_EQ(files.readOrCreate("a").view(), "");
+    EXPECT_TRUE(folder.has("a"));
+    folder.put("a", std::string("x\0y", 3));
+    EXPECT_EQ(files.readOrCreate("a").view(), std::string_view("x\0y", 3));
+    EXPECT_EQ(troubleIn([&] { files.readOrCreate("Temp/a"); }), FileTrouble::missing);
+}
+
+TEST_F(FilesTest, tellWhatIsWrong) {
+    files.createFolder("Temp");
+    files.createFolder("Temp");
+    files.write("a", "");
+    EXPECT_EQ(troubleIn([&] { files.createFolder("a"); }), FileTrouble::access);
+    EXPECT_EQ(troubleIn([&] { files.write("Temp", "x"); }), FileTrouble::access);
+    EXPECT_EQ(troubleIn([&] { files.write("none/a", "x"); }), FileTrouble::missing);
+    EXPECT_EQ(troubleIn([&] { files.remove("none"); }), FileTrouble::missing);
+    EXPECT_EQ(troubleIn([&] { files.write("/dev/full", "x"); }), FileTrouble::noSpace);
+    EXPECT_TRUE(troubleIn([&] { files.read("Temp"); }));
+    EXPECT_TRUE(troubleIn([&] { PosixFiles none((folder / "none").string()); }));
+
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_TRUE(troubleIn([&] { files.readOrCreate("pipe"); }));  // and does not wait for a writer
+    EXPECT_TRUE(troubleIn([&] { files.write("pipe", "x"); }));
+
+    if (::geteuid() == 0) return;  // to whom everything is writable
+    ASSERT_EQ(::chmod((folder / "a").c_str(), 0400), 0);
+    EXPECT_EQ(troubleIn([&] { files.write("a", "x"); }), FileTrouble::access);
+    EXPECT_EQ(files.readOrCreate("a").view(), "");
+}
+
+// The limit lets the first bytes through, as a disk does that fills up in the middle of a file.
+TEST_F(FilesTest, aFileThatFindsNoMoreRoomIsAFailure) {
+    rlimit before;
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto oldHandler = ::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{1000, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    const std::string piece(700, 'x');
+    const std::vector<std::string_view> pieces = {piece, piece, piece};
+    EXPECT_EQ(troubleIn([&] { files.write("a", pieces); }), FileTrouble::noSpace);
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    ::signal(SIGXFSZ, oldHandler);
+    EXPECT_EQ(folder.bytes("a"), std::string(1000, 'x'));
+}
+
+TEST_F(FilesTest, emptyAFolderByPatternAndFollowNoLink) {
+    namespace fs = std::filesystem;
+    const FreshFolder outside;
+    outside.put("temp1.tmp", "kept");
+    files.createFolder("Temp");
+    for (const char* name : {"Temp/temp0.tmp", "Temp/temp12.tmp", "Temp/other.txt", "Temp/.temp.tmp"}) {
+        files.write(name, "x");
+    }
+    fs::create_symlink(outside / "temp1.tmp", folder / "Temp/temp1.tmp");
+    fs::create_directory_symlink(outside.path(), folder / "Temp/temp2.tmp");
+    files.createFolder("Temp/temp3.tmp");
+    EXPECT_TRUE(troubleIn([&] { files.removeAll("Temp", "temp*.tmp"); }));  // the folder, which stays
+    EXPECT_FALSE(fs::exists(fs::symlink_status(folder / "Temp/temp1.tmp")));
+    EXPECT_FALSE(fs::exists(fs::symlink_status(folder / "Temp/temp2.tmp")));
+    EXPECT_FALSE(folder.has("Temp/temp0.tmp"));
+    EXPECT_FALSE(folder.has("Temp/temp12.tmp"));
+    EXPECT_TRUE(folder.has("Temp/temp3.tmp"));
+    EXPECT_TRUE(folder.has("Temp/other.txt"));
+    EXPECT_TRUE(folder.has("Temp/.temp.tmp"));
+
+    fs::create_directory_symlink(outside.path(), folder / "link");
+    for (const std::string& other : {std::string("link"), std::string(".."), outside.path(),
+                                     std::string("../") + fs::path(outside.path()).filename().string()}) {
+        EXPECT_TRUE(troubleIn([&] { files.removeAll(other, "temp*.tmp"); })) << other;
+    }
+    EXPECT_EQ(outside.bytes("temp1.tmp"), "kept");
+    EXPECT_TRUE(troubleIn([&] { files.removeAll("none", "*"); }));
+}
+
+TEST_F(FilesTest, findAndListNormalFiles) {
+    for (const char* name : {"b.sav", "a b.sav", "a.txt", ".hidden.sav"}) folder.put(name, "");
+    files.createFolder("folder.sav");
+    std::filesystem::create_symlink(folder / "a.txt", folder / "link.sav");
+    std::filesystem::create_symlink(folder / "none", folder / "dead.sav");
+    EXPECT_EQ(files.list(".", "*.sav"), (std::vector<std::string>{"a b.sav", "b.sav", "link.sav"}));
+    EXPECT_TRUE(files.FileExists(" a b.sav "));
+    EXPECT_TRUE(files.FileExists("link.sav"));
+    for (const char* none : {"", " ", "none", "folder.sav", ".hidden.sav", "./.hidden.sav", "dead.sav"}) {
+        EXPECT_FALSE(files.FileExists(none)) << none;
+    }
+}
+
+TEST_F(FilesTest, tellWhenAFileWasWritten) {
+    folder.put("a", "x");
+    const timespec times[2] = {{86400, 0}, {86400, 500000000}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, (folder / "a").c_str(), times, 0), 0);
+    EXPECT_EQ(files.lastModified("a").time_since_epoch(), std::chrono::milliseconds(86400500));
+}
+
+TEST_F(FilesTest, theProgramFolderIsHeldUnderAnyName) {
+    const std::string moved = folder.path() + "-moved";
+    files.createFolder("inner");
+    PosixFiles inner((folder / "inner").string());
+    std::filesystem::rename(folder / "inner", moved);
+    inner.write("a", "x");
+    EXPECT_TRUE(std::filesystem::exists(moved + "/a"));
+    std::filesystem::remove_all(moved);
+}
+
+TEST_F(FilesTest, faultsAreThoseOfTheDisk) {
+    FaultyFiles faulty(files);
+    faulty.write("a", "x");
+    const auto changes = [&] {
+        return std::vector<std::function<void()>>{
+            [&] { faulty.write("a", "y"); }, [&] { faulty.replace("a", "y"); },
+            [&] { faulty.readOrCreate("b"); }, [&] { faulty.createFolder("Temp"); }};
+    };
+    faulty.diskFull(true);
+    for (const auto& change : changes()) EXPECT_EQ(troubleIn(change), FileTrouble::noSpace);
+    faulty.writable(false);
+    for (const auto& change : changes()) EXPECT_EQ(troubleIn(change), FileTrouble::access);
+    EXPECT_EQ(troubleIn([&] { faulty.remove("a"); }), FileTrouble::access);
+    EXPECT_EQ(faulty.readOrCreate("a").view(), "x");
+    faulty.writable(true);
+    EXPECT_EQ(troubleIn([&] { faulty.removeAll(".", "a"); }), std::nullopt);
+    EXPECT_EQ(files.list(".", "*"), std::vector<std::string>{});
+}
+
+}  // namespace
+}  // namespace zifferon

@@ -1,6 +1,7 @@
 #include "storage/tagged_value.h"
 
 #include <bit>
+#include <cmath>
 
 #include "platform/windows1252.h"
 
@@ -37,15 +38,26 @@ double doubleOf(std::string_view bytes) { return std::bit_cast<double>(little<st
 std::uint32_t bitsOf(float value) { return std::bit_cast<std::uint32_t>(value); }
 std::uint64_t bitsOf(double value) { return std::bit_cast<std::uint64_t>(value); }
 
-bool isDecodableDecimal(std::string_view content) {
-    const auto scale = little<std::uint8_t>(content);
-    const auto sign = little<std::uint8_t>(content.substr(1));
-    return scale <= Decimal::maxScale && (sign == positiveSign || sign == negativeSign);
-}
-
 Decimal decimalOf(std::string_view content) {
     const auto part = [&](std::size_t at) { return little<std::uint32_t>(content.substr(at)); };
     return Decimal::fromParts(part(6), part(10), part(2), little<std::uint8_t>(content), content[1] != 0);
+}
+
+// Whether the bytes are those of a value that a calculation can have.
+bool isSound(const TaggedBytes& value) {
+    switch (value.type) {
+        case single:
+            return std::isfinite(singleOf(value.content));
+        case floating:
+            return std::isfinite(doubleOf(value.content));
+        case exactDecimal: {
+            const auto scale = little<std::uint8_t>(value.content);
+            const auto sign = little<std::uint8_t>(value.content.substr(1));
+            return scale <= Decimal::maxScale && (sign == positiveSign || sign == negativeSign);
+        }
+        default:
+            return true;
+    }
 }
 
 Text textOf(std::string_view content) {
@@ -127,24 +139,29 @@ CalcValue TaggedBytes::value() const {
 
 TaggedBytes RecordReader::tagged() {
     if (rest_.empty()) return {};
-    const auto type = little<std::uint16_t>(take(2));
+    const auto type = little<Type>(take(sizeof(Type)));
+    const TaggedBytes value{type, take(takeSize(type))};
+    if (!isSound(value)) throw RecordFailure();
+    return value;
+}
+
+// The number of bytes that a value of the type has here.
+std::size_t RecordReader::takeSize(std::uint16_t type) {
     switch (type) {
         case nothing:
-            return {};
+            return 0;
         case integer16:
-            return {type, take(2)};
-        case integer32: return {type, take(4)};
-        case single: return checked({type, take(4)}, [](auto content) { return std::isfinite(singleOf(content)); });
-        case floating: return checked({type, take(8)}, [](auto content) { return std::isfinite(doubleOf(content)); });
+            return 2;
+        case integer32:
+        case single:
+            return 4;
+        case floating:
+            return 8;
+        case exactDecimal:
+            return decimalSize;
         case text: {
-            std::size_t length = little<std::uint16_t>(take(2));
-            if (length == longLength) length = little<std::uint32_t>(take(4));
-            return {type, take(length)};
-        }
-        case exactDecimal: {
-            const TaggedBytes value{type, take(decimalSize)};
-            if (!isDecodableDecimal(value.content)) throw RecordFailure();
-            return value;
+            const auto length = little<std::uint16_t>(take(2));
+            return length == longLength ? little<std::uint32_t>(take(4)) : length;
         }
         default:
             throw RecordFailure();

@@ -68,7 +68,8 @@ class RecordReader {
     explicit RecordReader(std::string_view bytes) : rest_(bytes) {}
 
     // Behind the end of the file it is nothing. Throws RecordFailure for an unknown type, for bytes that are
-    // missing within the value, and for a decimal with another sign or more than 28 decimals.
+    // missing within the value, for a single or double that is no finite number, and for a decimal with
+    // another sign or more than 28 decimals.
     TaggedBytes tagged();
 
     // Behind the end of the file the variable stays as it was. Throws RecordFailure for missing bytes.
@@ -77,6 +78,7 @@ class RecordReader {
 
   private:
     std::string_view take(std::size_t size);
+    std::size_t takeSize(std::uint16_t type);
 
     std::string_view rest_;
 };

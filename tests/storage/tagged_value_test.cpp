@@ -74,11 +74,12 @@ TEST(TaggedValue, keepsTextsOfAnyLength) {
 }
 
 TEST(TaggedValue, isRefusedWhereItCannotBeDecoded) {
-    for (const char* bytes : {"01 00", "04", "04 00 00 00 80", "05 00 00 00 00 00 00 00 04", "08 00",
-                              "08 00 01", "08 00 02 00 30", "08 00 FF FF 01 00 00",
-                              "08 00 FF FF FF FF FF FF 30", "0E 00 1D 00 00 00 00 00 00 00 00 00 00 00 00 00",
-                              "0E 00 02 01 00 00 00 00 00 00 00 00 00 00 00 00",
-                              "0E 00 02 00 00 00 00 00 00 00 00 00 00 00 00"}) {
+    for (const char* bytes :
+         {"01 00", "04", "04 00 00 00 80", "05 00 00 00 00 00 00 00 04", "04 00 00 00 C0 7F",
+          "05 00 00 00 00 00 00 00 F0 FF", "08 00", "08 00 01", "08 00 02 00 30", "08 00 FF FF 01 00 00",
+          "08 00 FF FF FF FF FF FF 30", "0E 00 1D 00 00 00 00 00 00 00 00 00 00 00 00 00",
+          "0E 00 02 01 00 00 00 00 00 00 00 00 00 00 00 00",
+          "0E 00 02 00 00 00 00 00 00 00 00 00 00 00 00"}) {
         const std::string file = fromHex(bytes);
         RecordReader reader(file);
         EXPECT_THROW(reader.tagged(), RecordFailure) << bytes;

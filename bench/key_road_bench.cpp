@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "platform/headless/headless_machine.h"
+#include "platform/headless/headless_system.h"
 #include "platform/posix_files.h"
 #include "shell/program.h"
 
@@ -17,9 +18,9 @@ class Bench {
   public:
     explicit Bench(std::int64_t lines)
         : headless_(log_),
-          machine_{headless_, headless_, headless_, files_, headless_, headless_, headless_},
+          machine_{headless_, headless_, headless_, files_, headless_, headless_, system_, headless_},
           program_(machine_) {
-        program_.show();
+        program_.beginFresh();
         state().undoActive = false;
         Text tape, print;
         for (std::int64_t i = 0; i < lines; ++i) {
@@ -38,6 +39,7 @@ class Bench {
   private:
     std::ostringstream log_;
     HeadlessMachine headless_;
+    HeadlessSystem system_;
     PosixFiles files_;
     Machine machine_;
     Program program_;

@@ -108,7 +108,7 @@ template <class Write>
 void writeInTurns(benchmark::State& run, Bench& bench, Write write) {
     const bool newFiles = run.range(1) != 0;
     int turn = 0;
-    for (auto _ : run) {
+    for ([[maybe_unused]] auto _ : run) {
         bench.step(++turn);
         write(snapshotName(turn));
         if (!newFiles || turn % 8 != 0) continue;
@@ -142,7 +142,7 @@ void back(benchmark::State& run) {
     bench.step(1);
     bench.snapshot("temp1.tmp");
     int turn = 0;
-    for (auto _ : run) bench.back(snapshotName(++turn % 2));
+    for ([[maybe_unused]] auto _ : run) bench.back(snapshotName(++turn % 2));
 }
 
 }  // namespace

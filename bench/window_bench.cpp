@@ -30,7 +30,8 @@ class Desk {
         Text tape;
         for (std::int64_t i = 0; i < lines; ++i) tape += u"\r\n1.234,56 +   ";
         program_.pultform.state.anzeige.setText(tape);
-        program_.show();
+        program_.beginFresh();
+        program_.pultform.state.undoActive = false;  // a snapshot is measured elsewhere
         view_.refresh();
         while (!view_.isActiveWindow()) passEvents();
         for (int i = 0; i < 50; ++i) passEvents();

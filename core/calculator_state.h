@@ -98,6 +98,8 @@ struct CalculatorState {
     float separatorChoice = 0;  // 1 comma, 2 point, 0 not asked
     bool localeUnknown = false;
     int textColourScheme = 5, backColourScheme = 1;
+    bool focusDeferred = false;  // a box could not give the entry the focus before the window was shown
+    bool startSoundDone = false;
     int windowMode = 0;
 
     Calls calls;

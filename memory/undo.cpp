@@ -10,8 +10,9 @@ constexpr const char* folder = "Temp";
 
 }  // namespace
 
-Undo::Undo(CalculatorState& state, Machine& machine, std::function<void()> showNothingToUndo)
-    : s(state), machine_(machine), showNothingToUndo_(std::move(showNothingToUndo)), record_(state) {}
+Undo::Undo(CalculatorState& state, CalculationRecord& record, Machine& machine,
+           std::function<void()> showNothingToUndo)
+    : s(state), machine_(machine), showNothingToUndo_(std::move(showNothingToUndo)), record_(record) {}
 
 std::string Undo::fileOf(int number) {
     return std::string(folder) + "/temp" + std::to_string(number) + ".tmp";

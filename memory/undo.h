@@ -14,8 +14,10 @@ namespace zifferon {
 
 class Undo {
   public:
-    // `showNothingToUndo` shows the window that says so, and returns when it has been closed.
-    Undo(CalculatorState& state, Machine& machine, std::function<void()> showNothingToUndo);
+    // `record` is the one record of the program: what its last reading told of the switches goes into a
+    // snapshot. `showNothingToUndo` shows the window that says so, and returns when it has been closed.
+    Undo(CalculatorState& state, CalculationRecord& record, Machine& machine,
+         std::function<void()> showNothingToUndo);
 
     // Removes all snapshots.
     void emptyFolder();
@@ -51,7 +53,7 @@ class Undo {
     CalculatorState& s;
     Machine& machine_;
     std::function<void()> showNothingToUndo_;
-    CalculationRecord record_;
+    CalculationRecord& record_;
 };
 
 }  // namespace zifferon

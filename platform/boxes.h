@@ -7,7 +7,7 @@ namespace zifferon {
 
 enum class BoxIcon { none, information, question, warning, critical };
 enum class BoxButtons { ok, yesNo, yesNoCancel };
-enum class BoxAnswer { ok = 1, cancel = 2, yes = 6, no = 7 };
+enum class BoxAnswer { ok = 1, cancel = 2, yes = 6, no = 7, german, english };
 
 struct Box {
     BoxIcon icon = BoxIcon::none;

@@ -10,10 +10,10 @@ class Desktop {
     virtual ~Desktop() = default;
 
     // Set by the program before it shows its first window. Each runs like the handler of a control.
-    std::function<void()> onHotKey;                  // Control and the keypad's plus, whatever window is in use
-    std::function<void()> onTrayDoubleClick;         // double click on the icon
-    std::function<void()> onTrayShow, onTrayExit;    // the entries of its menu
-    std::function<void()> onSessionEnd;              // log-off, shutdown, or a request to terminate
+    std::function<void()> onHotKey;                // Control and the keypad's plus, whatever window is in use
+    std::function<void()> onTrayDoubleClick;       // double click on the icon
+    std::function<void()> onTrayShow, onTrayExit;  // the entries of its menu
+    std::function<void()> onSessionEnd;            // log-off, shutdown, or a request to terminate
 
     // Whether there is a tray now. Without one a window is minimised instead of hidden.
     virtual bool hasTray() = 0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/boxes.h"
+#include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/system.h"
 #include "platform/text.h"
@@ -20,11 +21,19 @@ class Sound {
   public:
     virtual ~Sound() = default;
     virtual void beep() = 0;
+
+    // Plays a file of the program folder; returns at once, and cuts off the one that plays. A failure is
+    // silent.
+    virtual void play(const std::string& fileName) = 0;
 };
 
-class ModalWindows {
+class Windows {
   public:
-    virtual ~ModalWindows() = default;
+    virtual ~Windows() = default;
+
+    // Makes the window visible and brings it to the front, or hides it. It must live until the process ends.
+    virtual void show(Window& window) = 0;
+    virtual void hide(Window& window) = 0;
 
     // Shows the window, tells it by onActivate, and returns when it is no longer visible. No other window
     // takes keys or the mouse meanwhile.
@@ -37,6 +46,9 @@ class Process {
 
     // Ends the process at once, from within whatever handler runs.
     [[noreturn]] virtual void end() = 0;
+
+    // Lets so many milliseconds pass; windows are painted meanwhile.
+    virtual void pause(int milliseconds) = 0;
 };
 
 struct Machine {
@@ -44,9 +56,10 @@ struct Machine {
     Clipboard& clipboard;
     Sound& sound;
     Files& files;
-    ModalWindows& windows;
+    Windows& windows;
     Process& process;
     System& system;
+    Desktop& desktop;
 };
 
 }  // namespace zifferon

@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include "platform/boxes.h"
 #include "platform/control.h"
 #include "platform/text_field.h"
 #include "platform/timer.h"
@@ -26,12 +27,16 @@ class Window {
     bool visible = false;
     Colour backColour{192, 192, 192};
 
+    bool alwaysOnTop = false;
+    bool minimised = false;
     bool framed = true;  // whether the system draws a frame and a title around it
 
-    std::function<void()> onActivate;  // it has become the one in use
+    std::function<void()> onMouseMove;  // over the window itself
+    std::function<void()> onActivate;   // it has become the one in use
     std::function<Text(TextView)>
-        onPaste;                      // the characters to be typed for a pasted text; none: the text itself
-    std::function<void()> onDismiss;  // the user closes it by other means than its controls
+        onPaste;  // the characters to be typed for a pasted text; none: the text itself
+    std::function<void(BoxAnswer)> onAnswer;  // what a scripted answer does to it; none: onDismiss
+    std::function<void()> onDismiss;          // the user closes it by other means than its controls
 
     // Later controls lie above earlier ones.
     void add(Control& control, TextView controlName);

@@ -11,6 +11,7 @@ int main(int argc, char** argv) {
     // One look on every desktop: the program brings its own colours.
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);  // the program ends itself
     QFont boxFont(QStringLiteral("Arial"));
     boxFont.setPixelSize(13);
     QApplication::setFont(boxFont);
@@ -18,9 +19,6 @@ int main(int argc, char** argv) {
     zifferon::QtMachine machine;
     zifferon::Program program(machine.machine);
     zifferon::FormView view(program.pultform, program.keys);
-    program.chooseSeparator();
-    program.show();
-    program.beginSnapshots();
-    view.refresh();
+    program.start();
     return QApplication::exec();
 }

@@ -18,7 +18,10 @@ Program::Program(Machine& machine)
     : keys(pultform, [this] { machine_.sound.beep(); }),
       machine_(machine),
       cells_(pultform.state, pultform.memoLabels, pultform, machine),
-      undo_(pultform.state, machine, [this] { showNothingToUndo(); }),
+      record_(pultform.state),
+      undo_(pultform.state, record_, machine, [this] { showNothingToUndo(); }),
+      modes_(pultform, machine.system),
+      life_(pultform, keys, undo_, record_, modes_, machine),
       commands_{pultform.state, pultform, machine.boxes, {}} {
     wireCalls();
     wireCommands();
@@ -26,25 +29,17 @@ Program::Program(Machine& machine)
     wireFields();
     wireRounding();
     wireOptions();
+    wireSounds();
+    wireWindow();
     cells_.wire();
 }
 
-void Program::show() {
-    pultform.visible = true;
-    pultform.setFocus(pultform.state.eingabe);
-}
-
-void Program::chooseSeparator() {
+void Program::beginFresh() {
     CalculatorState& s = pultform.state;
-    const DecimalSeparator separator = separatorOfLocale(machine_.system.GetDecStyle());
-    s.decimalPointStyle = separator == DecimalSeparator::point ? 1 : 0;
-    s.localeUnknown = separator == DecimalSeparator::unknown;
-    if (!s.localeUnknown) return;
-    storing(settingsFile::decimalSeparator, [&] { settleSeparator(s, machine_.files, machine_.boxes); });
-}
-
-void Program::beginSnapshots() {
-    pultform.state.undoActive = true;
+    s.startSoundDone = true;
+    s.undoActive = true;
+    pultform.visible = true;
+    pultform.setFocus(s.eingabe);
     machine_.files.createFolder("Temp");
     undo_.emptyFolder();
     undo_.begin();
@@ -92,8 +87,9 @@ void Program::wireCommands() {
     CalculatorState& s = pultform.state;
     CommandCalls& calls = commands_.calls;
     calls.applyUndo = [this] { undo_.applyUndo(); };
-    calls.quit = [this] { machine_.process.end(); };
-    calls.printTape = calls.nextWindowMode = [] {};
+    calls.quit = [this] { life_.quit(LifeCycle::pauseAfterKey); };
+    calls.printTape = [] {};
+    calls.nextWindowMode = [this] { stepWindowMode(); };
     calls.nextTextColours = [this, &s] { stepTextColours(nextTextScheme(s.textColourScheme)); };
     calls.nextBackColours = [this, &s] { stepBackColours(nextBackScheme(s.backColourScheme)); };
     calls.standardColours = [this] {
@@ -152,13 +148,17 @@ void Program::wireEntry() {
     s.eingabe.onKeyPress = [&s](char16_t& character) { eingabe_KeyPress(s, character); };
     s.eingabe.onKeyUp = [&s](int code) { eingabe_KeyUp(s, code); };
     s.eingabe.onChange = [&s] { s.blockedKeyReleased = false; };
-    s.eingabe.onGotFocus = [&s] { s.anzeige.locked = true; };
+    s.eingabe.onGotFocus = [this, &s] {
+        s.anzeige.locked = true;
+        if (!s.startSoundDone) pultform.Timer2.start(10);
+    };
 }
 
 void Program::wireFields() {
     CalculatorState& s = pultform.state;
     pultform.onPaste = [&s](TextView pasted) { return keysOfPastedText(pasted, s.separators()); };
     s.anzeige.onChange = [this, &s] {
+        playTapeSound();
         undo_.anzeigeChanged();
         s.anzeige.caretToEnd();
     };
@@ -173,6 +173,46 @@ void Program::wireFields() {
     wireTapePaging(s);
 }
 
+void Program::playTapeSound() {
+    const CalculatorState& s = pultform.state;
+    if (!s.Checksound.ticked()) return;
+    if (s.keySound == 5) return machine_.sound.play("undo.wav");
+    if (s.anzeige.empty()) return machine_.sound.play("trash.wav");
+    machine_.sound.play(s.keySound == 0 ? "rattle1.wav" : "rattle2.wav");
+}
+
+// The sound of the start comes once; a run that starts silent never plays it.
+void Program::wireSounds() {
+    pultform.Timer2.onTick = [this] {
+        CalculatorState& s = pultform.state;
+        pultform.Timer2.stop();
+        if (std::exchange(s.startSoundDone, true) || !s.Checksound.ticked()) return;
+        machine_.sound.play("start.wav");
+    };
+}
+
+void Program::wireWindow() {
+    CalculatorState& s = pultform.state;
+    pultform.Command3.onClick = [this] { stepWindowMode(); };
+    pultform.cmdexit.onClick = [&s] {
+        s.calls.focusEntry();
+        s.calls.SendKeysEx(u"{F12}");
+    };
+    pultform.Picture1.onClick = [&s] { s.calls.focusEntry(); };
+    s.txtop.onMouseMove = [this] { pultform.Command3.visible = true; };
+    pultform.onMouseMove = pultform.Frame1.onMouseMove =
+        s.anzeige.onMouseMove = [this] { pultform.Command3.visible = false; };
+}
+
+void Program::stepWindowMode() {
+    modes_.step();
+    if (pultform.state.Checksound.ticked()) machine_.sound.play("switch.wav");
+}
+
+void Program::focusOrDefer() {
+    if (!pultform.setFocus(pultform.state.eingabe)) pultform.state.focusDeferred = true;
+}
+
 // With clipcheck ticked each result goes to the clipboard as it stands, but not what a start has restored.
 void Program::publishSubtotal() {
     CalculatorState& s = pultform.state;
@@ -184,9 +224,13 @@ void Program::publishSubtotal() {
 
 void Program::wireOptions() {
     CalculatorState& s = pultform.state;
-    s.Checksound.onClick = s.Checkob.onClick = [&s] { s.calls.focusEntry(); };
+    s.Checksound.onClick = [this] { focusOrDefer(); };
+    s.Checkob.onClick = [this, &s] {
+        pultform.alwaysOnTop = s.Checkob.ticked();
+        focusOrDefer();
+    };
     s.clipcheck.onClick = [this, &s] {
-        s.calls.focusEntry();
+        focusOrDefer();
         if (!s.clipcheck.ticked()) machine_.clipboard.clear();
     };
 }

@@ -6,6 +6,7 @@
 #include "memory/undo.h"
 #include "platform/key_road.h"
 #include "platform/machine.h"
+#include "shell/life_cycle.h"
 #include "shell/pultform.h"
 
 namespace zifferon {
@@ -17,14 +18,11 @@ class Program {
     Pultform pultform;
     KeyRoad keys;
 
-    // Comma or point, by the user's locale; where it does not tell, by an earlier answer or by asking.
-    void chooseSeparator();
+    // The real start, from the check of the components to the shown window.
+    void start() { life_.start(); }
 
-    // Shows the main window and gives the entry line the focus.
-    void show();
-
-    // An empty folder for the snapshots, and the first of them.
-    void beginSnapshots();
+    // A calculator as it stands after a start on an empty quick file, without checks and windows.
+    void beginFresh();
 
   private:
     void wireCalls();
@@ -33,6 +31,11 @@ class Program {
     void wireFields();
     void wireRounding();
     void wireOptions();
+    void wireSounds();
+    void wireWindow();
+    void playTapeSound();
+    void focusOrDefer();
+    void stepWindowMode();
     void publishSubtotal();
     void showNothingToUndo();
     void store(const std::string& file, float value);
@@ -42,7 +45,10 @@ class Program {
 
     Machine& machine_;
     MemoryPanel cells_;
+    CalculationRecord record_;
     Undo undo_;
+    WindowModes modes_;
+    LifeCycle life_;
     CommandDesk commands_;
 };
 

@@ -27,12 +27,16 @@ Pultform::Pultform() {
     add(s.rndright, u"rndright");
     add(s.spezrnd, u"spezrnd");
     add(nixspez, u"nixspez");
+    add(Command3, u"Command3");
+    add(cmdexit, u"cmdexit");
     add(s.zurück, u"zurück");
     add(s.clipcheck, u"clipcheck");
     add(s.Checksound, u"Checksound");
     add(s.Checkob, u"Checkob");
     add(s.Texterror, u"Texterror");
     add(s.superdruck, u"superdruck");
+    add(Timer2, u"Timer2");
+    add(minitimer, u"minitimer");
     add(s.errortimer, u"errortimer");
     add(s.messtimer, u"messtimer");
     layOutPultform(*this);

@@ -25,6 +25,8 @@ class Pultform : public Window {
                                       Control{ControlKind::label}, Control{ControlKind::label},
                                       Control{ControlKind::label}};  // Label3 to Label7: "M1" to "M5"
     Control Picture1{ControlKind::picture};
+    Control Command3{ControlKind::button}, cmdexit{ControlKind::button};
+    Timer Timer2, minitimer;
     Control nixspez{ControlKind::button};  // the blind button beside spezrnd
 };
 

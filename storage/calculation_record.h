@@ -71,8 +71,7 @@ void writeRecord(Files& files, const std::string& path, const CalculationRecord&
 // RecordFailure, and then the record is as before.
 void readRecord(Files& files, const std::string& path, CalculationRecord& record);
 
-// Bringing what has been read to the calculator; change handlers run as for any writing of a field. What is
-// no text in the place of one becomes a text under the separators in use.
+// Bringing what has been read to the calculator; change handlers run as for any writing of a field.
 void applyCells(const CalculationRecord& record);      // memo1 to memo5
 void applyFields(CalculationRecord& record);           // anzeige, zwischen, txtop, eingabe with the caret at
                                                        // its end, superdruck

@@ -40,6 +40,10 @@ const char* wordOf(BoxAnswer answer) {
             return "no";
         case BoxAnswer::cancel:
             return "cancel";
+        case BoxAnswer::german:
+            return "german";
+        case BoxAnswer::english:
+            return "english";
         case BoxAnswer::ok:
             break;
     }
@@ -79,6 +83,8 @@ std::string quoted(TextView text) {
 
 void HeadlessMachine::beginAnew() {
     due_.clear();
+    trayIcon_ = false;
+    onHotKey = onTrayDoubleClick = onTrayShow = onTrayExit = onSessionEnd = nullptr;
     clipboard_.clear();
 }
 
@@ -108,13 +114,37 @@ void HeadlessMachine::setText(TextView text) {
 
 void HeadlessMachine::beep() { log_ << "beep\n"; }
 
+void HeadlessMachine::play(const std::string& fileName) { log_ << "sound " << fileName << '\n'; }
+
 void HeadlessMachine::showModal(Window& window) {
-    takeAnswer(BoxAnswer::ok);
-    window.visible = true;
-    log_ << "window " << toUtf8(window.name) << " shown\n";
+    show(window);
+    if (window.visible) {
+        const BoxAnswer answer = takeAnswer(BoxAnswer::ok);
+        window.onAnswer ? window.onAnswer(answer) : window.onDismiss();
+    }
+    tellOf(window, "hidden");
+}
+
+void HeadlessMachine::show(Window& window) {
+    if (std::exchange(window.visible, true)) return;
+    tellOf(window, "shown");
     if (window.onActivate) window.onActivate();
-    window.onDismiss();
-    log_ << "window " << toUtf8(window.name) << " hidden\n";
+}
+
+void HeadlessMachine::hide(Window& window) {
+    if (std::exchange(window.visible, false)) tellOf(window, "hidden");
+}
+
+void HeadlessMachine::tellOf(const Window& window, const char* what) {
+    log_ << "window " << toUtf8(window.name) << ' ' << what << '\n';
+}
+
+void HeadlessMachine::addTrayIcon() {
+    if (!std::exchange(trayIcon_, true)) log_ << "tray icon added\n";
+}
+
+void HeadlessMachine::removeTrayIcon() {
+    if (std::exchange(trayIcon_, false)) log_ << "tray icon removed\n";
 }
 
 void HeadlessMachine::end() {

@@ -20,17 +20,13 @@ class ProcessEnded : public std::exception {};
 class HeadlessMachine : public Boxes,
                         public Clipboard,
                         public Sound,
-                        public ModalWindows,
+                        public Windows,
                         public Process,
-                        public System {
+                        public Desktop {
   public:
     explicit HeadlessMachine(std::ostream& log) : log_(log) {}
 
-    // What the system answers.
-    std::string localeCode = "00000407", windowsStyle, systemName = "Windows XP";
-    int captionPixels = 19;
-
-    // One of yes, no, ok, cancel; the next box without an answer of its own takes it.
+    // One of yes, no, ok, cancel, or a language; the next box without an answer of its own takes it.
     void queueAnswer(BoxAnswer answer) { answers_.push_back(answer); }
 
     const Text& clipboardText() const { return clipboard_; }
@@ -44,12 +40,17 @@ class HeadlessMachine : public Boxes,
     void clear() override;
     void setText(TextView text) override;
     void beep() override;
+    void play(const std::string& fileName) override;
+    void show(Window& window) override;
+    void hide(Window& window) override;
     void showModal(Window& window) override;
+    void pause(int) override {}  // time passes by wait alone
+    bool hasTray() override { return true; }
+    void addTrayIcon() override;
+    void removeTrayIcon() override;
+    void registerHotKey() override {}
+    void unregisterHotKey() override {}
     [[noreturn]] void end() override;
-    std::string GetDecStyle() const override { return localeCode; }
-    std::string GetWindowsStyle() const override { return windowsStyle; }
-    std::string GetSystemName() const override { return systemName; }
-    int captionHeight() const override { return captionPixels; }
 
   private:
     struct Due {
@@ -59,12 +60,14 @@ class HeadlessMachine : public Boxes,
 
     static bool before(const Due& a, const Due& b);
     void followTimers(const Window& window);
+    void tellOf(const Window& window, const char* what);
     BoxAnswer takeAnswer(BoxAnswer unasked);
     Timer* nextDue(const Window& window, std::int64_t until);
 
     std::ostream& log_;
     std::deque<BoxAnswer> answers_;
     Text clipboard_;
+    bool trayIcon_ = false;
     std::int64_t now_ = 0;  // milliseconds
     std::unordered_map<const Timer*, Due> due_;
 };

@@ -2,11 +2,14 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QEventLoop>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 #include <cstdlib>
 
 #include "platform/qt/control_view.h"
+#include "platform/qt/form_view.h"
 
 namespace zifferon {
 
@@ -65,5 +68,12 @@ void QtSound::beep() { QApplication::beep(); }
 
 // No destructor runs: handlers are on their way, and what they hold is nobody's any more.
 void QtProcess::end() { std::_Exit(EXIT_SUCCESS); }
+
+void QtProcess::pause(int milliseconds) {
+    FormView::refreshAll();
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
 
 }  // namespace zifferon

@@ -4,7 +4,7 @@
 #include "platform/machine.h"
 #include "platform/posix_files.h"
 #include "platform/posix_system.h"
-#include "platform/qt/modal_windows.h"
+#include "platform/qt/qt_windows.h"
 
 namespace zifferon {
 
@@ -22,25 +22,38 @@ class QtClipboard : public Clipboard {
 class QtSound : public Sound {
   public:
     void beep() override;
+    void play(const std::string&) override {}
 };
 
 class QtProcess : public Process {
   public:
     [[noreturn]] void end() override;
+    void pause(int milliseconds) override;
 };
 
 // The current folder becomes the program folder; throws FileFailure where it cannot be opened.
+// A desktop that offers nothing beside windows.
+class PlainDesktop : public Desktop {
+  public:
+    bool hasTray() override { return false; }
+    void addTrayIcon() override {}
+    void removeTrayIcon() override {}
+    void registerHotKey() override {}
+    void unregisterHotKey() override {}
+};
+
 class QtMachine {
     QtBoxes boxes_;
     QtClipboard clipboard_;
     QtSound sound_;
     PosixFiles files_;
-    QtModalWindows windows_{sound_};
+    QtWindows windows_{sound_};
     QtProcess process_;
     PosixSystem system_;
+    PlainDesktop desktop_;
 
   public:
-    Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_, system_};
+    Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_, system_, desktop_};
 };
 
 }  // namespace zifferon

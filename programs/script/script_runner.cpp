@@ -1,5 +1,6 @@
 #include "programs/script/script_runner.h"
 
+#include <map>
 #include <string>
 
 #include "core/number_format.h"
@@ -14,7 +15,7 @@ namespace zifferon {
 ScriptRunner::ScriptRunner(std::ostream& out, std::ostream& errors)
     : out_(out), errors_(errors), headless_(out), files_(disk_), machine_{headless_, headless_, headless_,
                                                                           files_,    headless_, headless_,
-                                                                          headless_} {}
+                                                                          system_,   headless_} {}
 
 int ScriptRunner::run(std::istream& script) {
     std::string line;
@@ -40,7 +41,7 @@ void ScriptRunner::runLine(std::string_view text) {
     if (line.atEnd() || text.front() == '#') return;
     const std::string command = line.word();
     if (runKeys(command, line) || runStage(command, line) || runLook(command, line) ||
-        runMouse(command, line)) {
+        runMouse(command, line) || runDesktop(command, line)) {
         return;
     }
     throw MalformedScript("unknown command " + command);
@@ -49,6 +50,7 @@ void ScriptRunner::runLine(std::string_view text) {
 bool ScriptRunner::runStage(const std::string& command, ScriptLine& line) {
     if (command == "machine") return setMachine(line), true;
     if (command == "fresh") return fresh(line), true;
+    if (command == "start") return start(line), true;
     if (command == "answer") return answer(line), true;
     if (command == "decimal") {
         out_ << decimalCommand(line) << '\n';
@@ -106,6 +108,29 @@ bool ScriptRunner::runMouse(const std::string& command, ScriptLine& line) {
     return false;
 }
 
+bool ScriptRunner::runDesktop(const std::string& command, ScriptLine& line) {
+    Desktop& desktop = headless_;
+    const auto run = [&](const std::function<void()>& handler) {
+        line.expectEnd();
+        program().keys.run(handler);
+        return true;
+    };
+    if (command == "hotkey") return run(desktop.onHotKey);
+    if (command == "session-end") return run(desktop.onSessionEnd);
+    if (command == "tray") {
+        const std::string what = line.word();
+        if (what == "show") return run(desktop.onTrayShow);
+        if (what == "exit") return run(desktop.onTrayExit);
+        if (what == "dblclick") return run(desktop.onTrayDoubleClick);
+        throw MalformedScript("unknown part of the tray " + what);
+    }
+    if (command != "close" && command != "activate") return false;
+    const Window& window = program().pultform;
+    const std::string name = line.word();
+    if (name != toUtf8(window.name)) throw MalformedScript("unknown window " + name);
+    return run(command == "close" ? window.onDismiss : window.onActivate);
+}
+
 bool ScriptRunner::runLook(const std::string& command, ScriptLine& line) {
     if (command == "show") {
         do show(line.word());
@@ -123,25 +148,42 @@ bool ScriptRunner::runLook(const std::string& command, ScriptLine& line) {
     return false;
 }
 
+namespace {
+
+const std::map<std::string, std::string HeadlessSystem::*> systemAnswers = {
+    {"locale", &HeadlessSystem::locale},
+    {"style", &HeadlessSystem::style},
+    {"system", &HeadlessSystem::name}};
+
+}  // namespace
+
 void ScriptRunner::setMachine(ScriptLine& line) {
     const std::string key = line.word();
     if (key == "writable") return files_.writable(line.word() != "no");
     if (key == "diskfull") return files_.diskFull(line.word() == "yes");
-    if (key == "locale")
-        headless_.localeCode = toUtf8(line.quotedText());
-    else if (key == "style")
-        headless_.windowsStyle = toUtf8(line.quotedText());
-    else if (key == "system")
-        headless_.systemName = toUtf8(line.quotedText());
-    else if (key == "caption")
-        headless_.captionPixels = static_cast<int>(line.number());
-    else
-        throw MalformedScript("unknown property of the machine: " + key);
+    if (key == "caption") {
+        system_.caption = static_cast<int>(line.number());
+        return;
+    }
+    const auto answer = systemAnswers.find(key);
+    if (answer == systemAnswers.end()) throw MalformedScript("unknown property of the machine: " + key);
+    system_.*answer->second = toUtf8(line.quotedText());
+}
+
+void ScriptRunner::start(ScriptLine& line) {
+    line.expectEnd();
+    beginAnew();
+    program_->keys.run([this] { program_->start(); });
+}
+
+void ScriptRunner::beginAnew() {
+    program_.reset();
+    headless_.beginAnew();
+    program_ = std::make_unique<Program>(machine_);
 }
 
 void ScriptRunner::fresh(ScriptLine& line) {
-    program_ = std::make_unique<Program>(machine_);
-    headless_.beginAnew();
+    beginAnew();
     CalculatorState& s = program_->pultform.state;
     while (!line.atEnd()) {
         const std::string word = line.word();
@@ -158,8 +200,7 @@ void ScriptRunner::fresh(ScriptLine& line) {
     applyFormatMode(s);
     files_.replace("quicksave.zfr", "");
     writeSingle(files_, settingsFile::language, s.languageEnglish ? 1.0F : 0.0F);
-    program_->show();
-    program_->beginSnapshots();
+    program_->beginFresh();
 }
 
 void ScriptRunner::answer(ScriptLine& line) {
@@ -173,6 +214,10 @@ void ScriptRunner::answer(ScriptLine& line) {
             headless_.queueAnswer(BoxAnswer::ok);
         } else if (word == "cancel") {
             headless_.queueAnswer(BoxAnswer::cancel);
+        } else if (word == "german") {
+            headless_.queueAnswer(BoxAnswer::german);
+        } else if (word == "english") {
+            headless_.queueAnswer(BoxAnswer::english);
         } else {
             throw MalformedScript("unknown answer " + word);
         }

@@ -8,6 +8,7 @@
 
 #include "platform/headless/faulty_files.h"
 #include "platform/headless/headless_machine.h"
+#include "platform/headless/headless_system.h"
 #include "platform/posix_files.h"
 #include "programs/script/script_line.h"
 #include "shell/program.h"
@@ -28,10 +29,13 @@ class ScriptRunner {
     bool runStage(const std::string& command, ScriptLine& line);
     bool runKeys(const std::string& command, ScriptLine& line);
     bool runMouse(const std::string& command, ScriptLine& line);
+    bool runDesktop(const std::string& command, ScriptLine& line);
     bool runLook(const std::string& command, ScriptLine& line);
 
     void setMachine(ScriptLine& line);
+    void start(ScriptLine& line);
     void fresh(ScriptLine& line);
+    void beginAnew();
     void answer(ScriptLine& line);
     void type(TextView text);
     void select(const std::string& command, ScriptLine& line);
@@ -46,6 +50,7 @@ class ScriptRunner {
     std::ostream& out_;
     std::ostream& errors_;
     HeadlessMachine headless_;
+    HeadlessSystem system_;
     PosixFiles disk_;
     FaultyFiles files_;
     Machine machine_;

@@ -54,6 +54,7 @@ TEST_F(SettingsTest, startOptionsThatAreAbsentOrDamagedAreTheDefaults) {
     const std::string whole = fromHex("04 00 00 80 BB 44 04 00 00 00 96 C2 02 00 02 00 02 00 01 00");
     for (const std::string& damaged :
          {std::string(), std::string("x"), fromHex("63 00") + whole.substr(2),
+          fromHex("04 00 CA F2 49 71 04 00 CA F2 49 F1 00 00"),  // 1E30 twips away
           fromHex("04 00 00 00 C0 7F 04 00 00 00 80 FF 00 00"),  // not a number, infinite
           fromHex("08 00 01 00 31 00 00")}) {
         folder.put("winstate.dat", damaged);

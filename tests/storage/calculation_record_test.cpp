@@ -6,7 +6,6 @@
 
 #include "platform/headless/faulty_files.h"
 #include "platform/posix_files.h"
-#include "platform/windows1252.h"
 #include "tests/support/fresh_folder.h"
 
 namespace zifferon {
@@ -246,50 +245,6 @@ TEST(CalculationRecord, isUnharmedByAFailingFile) {
     }
     EXPECT_EQ(desk.encoded(), filledBytes());
     EXPECT_EQ(folder.bytes("b.sav"), now);
-}
-
-// Whatever happens to a field between two snapshots, its bytes are those of the whole text; and whatever
-// bytes are read, the field gets the whole text of them.
-TEST(EncodedText, followsItsFieldThroughAllChanges) {
-    std::mt19937 random(7);
-    TextField field;
-    EncodedText encoded(field);
-    std::vector<std::string> earlier{""};
-    const auto someText = [&] { return Text(random() % 200, static_cast<char16_t>(u'a' + random() % 3)); };
-    for (int turn = 0; turn < 5000; ++turn) {
-        switch (random() % 8) {
-            case 0:
-                field.setText(someText());
-                break;
-            case 1:
-                field.setTextFrom(random() % (field.text().size() + 1), someText());
-                break;
-            case 2:
-                field.setCaret(random() % (field.text().size() + 1));
-                field.typeCharacter(random() % 2 == 0 ? u'\b' : u'«');
-                break;
-            case 3:
-                encoded.setBytes(earlier[random() % earlier.size()]);
-                if (random() % 2 == 0) encoded.writeToField();
-                break;
-            default:
-                field.append(u"12 ÷");
-                break;
-        }
-        if (random() % 3 == 0) continue;
-        encoded.takeFromField();
-        std::string whole(field.text().size(), '\0');
-        encodeWindows1252(field.text(), whole.data());
-        ASSERT_EQ(encoded.bytes(), whole);
-        earlier.push_back(whole);
-
-        const std::string& other = earlier[random() % earlier.size()];
-        encoded.setBytes(other);
-        encoded.writeToField();
-        Text text(other.size(), u'\0');
-        decodeWindows1252(other, text.data());
-        ASSERT_EQ(field.text(), text);
-    }
 }
 
 }  // namespace

@@ -17,8 +17,6 @@ std::string encoded(const CalcValue& value) {
     return std::string(writer.bytes());
 }
 
-CalcValue exactly(CalcValue::Value value) { return CalcValue(std::move(value)); }
-
 TEST(TaggedValue, hasTheBytesOfItsType) {
     EXPECT_EQ(toHex(encoded(CalcValue())), "00 00");
     EXPECT_EQ(toHex(encoded(-2)), "02 00 FE FF");
@@ -48,7 +46,7 @@ TEST(TaggedValue, comesBackWithItsTypeAndEveryDigit) {
         everyCharacter += character;
     }
     for (const CalcValue& value :
-         {CalcValue(), CalcValue(0), CalcValue(-32768), CalcValue(32768), exactly(std::int32_t{7}),
+         {CalcValue(), CalcValue(0), CalcValue(-32768), CalcValue(32768),
           CalcValue(std::numeric_limits<int>::min()), CalcValue(0.1), CalcValue(-1e300), CalcValue(u"61"),
           CalcValue(everyCharacter), CalcValue(Decimal::fromParts(all, all, all, 28, true)),
           CalcValue(Decimal::fromParts(1250, 0, 0, 2, false)),
@@ -58,6 +56,9 @@ TEST(TaggedValue, comesBackWithItsTypeAndEveryDigit) {
         RecordReader reader(bytes);
         EXPECT_EQ(describe(reader.tagged().value()), describe(value));
     }
+    const std::string wide = fromHex("03 00 07 00 00 00");  // though it would fit 16 bits
+    RecordReader reader(wide);
+    EXPECT_EQ(encoded(reader.tagged().value()), wide);
 }
 
 TEST(TaggedValue, keepsTextsOfAnyLength) {

@@ -22,7 +22,7 @@ void letPass(int milliseconds) {
 }
 
 void WindowTest::SetUp() {
-    program.show();
+    program.beginFresh();
     view.refresh();
     ASSERT_TRUE(comesTrue([&] { return view.isActiveWindow(); }));
     hands.setNumLock(true);

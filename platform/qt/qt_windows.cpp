@@ -1,0 +1,58 @@
+#include "platform/qt/qt_windows.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <algorithm>
+
+#include "platform/qt/form_view.h"
+
+namespace zifferon {
+
+struct QtWindows::Shown {
+    Shown(Window& window, Sound& sound, QWidget* owner)
+        : keys(window, [&sound] { sound.beep(); }), view(window, keys, owner) {
+        const QRect around =
+            owner != nullptr ? owner->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry();
+        view.move(around.center() - view.rect().center());
+    }
+
+    KeyRoad keys;
+    FormView view;
+};
+
+namespace {
+
+bool hasView(const Window& window) {
+    const auto widgets = QApplication::topLevelWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), [&](QWidget* widget) {
+        const auto* const view = dynamic_cast<FormView*>(widget);
+        return view != nullptr && &view->window() == &window;
+    });
+}
+
+}  // namespace
+
+QtWindows::QtWindows(Sound& sound) : sound_(sound) {}
+QtWindows::~QtWindows() = default;
+
+void QtWindows::show(Window& window) {
+    if (!hasView(window)) shown_.push_back(std::make_unique<Shown>(window, sound_, nullptr));
+    window.visible = true;
+    FormView::refreshAll();
+}
+
+void QtWindows::hide(Window& window) {
+    window.visible = false;
+    FormView::refreshAll();
+}
+
+void QtWindows::showModal(Window& window) {
+    Shown shown(window, sound_, QApplication::activeWindow());
+    shown.view.setWindowModality(Qt::ApplicationModal);
+    window.visible = true;
+    shown.view.refresh();
+    shown.view.activateWindow();
+    while (window.visible) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+}  // namespace zifferon

@@ -1,0 +1,81 @@
+// From the start of the process to its end: checks, first run, the last state, the tray, the goodbye.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "core/calculator_state.h"
+#include "memory/undo.h"
+#include "platform/key_road.h"
+#include "platform/machine.h"
+#include "shell/pultform.h"
+#include "shell/start_windows.h"
+#include "shell/window_modes.h"
+
+namespace zifferon {
+
+class LifeCycle {
+  public:
+    LifeCycle(Pultform& window, KeyRoad& keys, Undo& undo, CalculationRecord& record, WindowModes& modes,
+              Machine& machine);
+
+    // Everything between the start of the process and the shown window, in its order. A condition that cannot
+    // be mended ends the process after its box.
+    void start();
+
+    // The pauses before the process ends, in milliseconds.
+    static constexpr int pauseAfterKey = 1000, pauseAfterTray = 1500;
+
+    // Ends the process behind the goodbye window. The question has been answered.
+    void quit(int pause);
+
+  private:
+    // The start, step by step.
+    void checkComponents();
+    void probeWriting();
+    void openUndoSwitch();
+    void readLocale();
+    void firstRun();
+    void readFrame();
+    void showLoadingWindow();
+    void restoreState();
+    void applyRecord();
+    void show();
+    void stopWriteProtected(bool english);
+
+    // When the main window becomes active; the rest of it the first time only.
+    void activated();
+    void firstActivation();
+    void applySettings();
+    void beginSnapshots(const StartOptions& options);
+    void queueLayoutCycle();
+
+    // Tray, hot key, end of the session.
+    bool hidden() const { return !window_.visible || window_.minimised; }
+    void hideInTray();
+    void showFromTray();
+    void hotKeyPressed();
+    void askToExit();
+    void minitimerTick();
+    void unload();
+    void sayGoodbye(int pause);
+
+    float setting(const std::string& file);
+    bool english();
+
+    Pultform& window_;
+    KeyRoad& keys_;
+    Undo& undo_;
+    CalculationRecord& record_;
+    WindowModes& modes_;
+    Machine& machine_;
+    CalculatorState& s;
+    std::vector<Key> typedAhead_;
+    bool firstActivateDone_ = false;
+    bool inTray_ = false;
+    bool layoutCyclePending_ = false;
+    Place trayRestore_;
+    std::unique_ptr<Form2> goodbye_;
+};
+
+}  // namespace zifferon

@@ -1,0 +1,65 @@
+// The three small windows around a run: the choice of the language, the loading window, the goodbye.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "platform/key.h"
+#include "platform/window.h"
+
+namespace zifferon {
+
+// The first run: a button for each language.
+class Form3 : public Window {
+  public:
+    Form3();
+
+    enum class Choice { none, german, english };
+    Choice choice() const { return choice_; }
+
+    Control heading{ControlKind::label}, line{ControlKind::label};
+    Control Label1{ControlKind::label}, Label2{ControlKind::label};
+    Control Command1{ControlKind::button}, Command2{ControlKind::button};
+    TextField Picture1;  // takes the keyboard from the buttons
+
+  private:
+    void choose(Choice choice);
+
+    Choice choice_ = Choice::none;
+};
+
+// Nineteen progress cells, filled one after the other, and what is being done.
+class Form1 : public Window {
+  public:
+    explicit Form1(bool english);
+
+    static constexpr int cellCount = 19;
+
+    // Fills the next cell with its text.
+    void fillCell(int index);
+
+    // Keys that were typed while it stood, for the calculator.
+    const std::vector<Key>& typedAhead() const { return typedAhead_; }
+
+    Control label{ControlKind::label};
+    struct Cell : Control {
+        Cell() : Control(ControlKind::label) {}
+    };
+    std::array<Cell, cellCount> cells;
+    TextField load;
+
+  private:
+    void addLine(TextView german, TextView english);
+
+    bool english_;
+    std::vector<Key> typedAhead_;
+};
+
+class Form2 : public Window {
+  public:
+    explicit Form2(bool english);
+
+    Control Label1{ControlKind::label}, Label2{ControlKind::label};
+};
+
+}  // namespace zifferon

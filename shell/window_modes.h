@@ -1,0 +1,45 @@
+// The three sizes of the main window: the full desk, the desk without its side panel, and a strip of the
+// entry lines.
+#pragma once
+
+#include "platform/system.h"
+#include "shell/pultform.h"
+#include "shell/settings_files.h"
+
+namespace zifferon {
+
+class WindowModes {
+  public:
+    WindowModes(Pultform& window, const System& system) : window_(window), system_(system) {}
+
+    // What the start has found out: whether the frames are of the newer kind, and sizes that take the place
+    // of the layouts' own where they are active.
+    void setFrame(bool modern, const StoredSizes& sizes) {
+        modernFrame_ = modern;
+        sizes_ = sizes;
+    }
+
+    // From the full desk to the narrow one, to the strip, and back. The caret goes to the end of the tape,
+    // where it is seen, and of the entry, which ends up with the focus.
+    void step();
+
+    // The layout of a stored mode, 1 or 2, at the start.
+    void restoreNarrow();
+    void restoreStrip();
+
+  private:
+    void layOutFull();
+    void layOutNarrow();
+    void layOutStrip();
+    void showSidePanel(bool visible);
+    void enableEdit(bool enabled);
+    void placeEntryBlock(bool strip);
+    int heightCorrection(bool toStrip) const;
+
+    Pultform& window_;
+    const System& system_;
+    bool modernFrame_ = false;
+    StoredSizes sizes_;
+};
+
+}  // namespace zifferon

@@ -1,0 +1,128 @@
+// The start in a damaged, incomplete or forbidding program folder.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <sstream>
+
+#include "platform/headless/faulty_files.h"
+#include "platform/headless/headless_machine.h"
+#include "platform/headless/headless_system.h"
+#include "platform/posix_files.h"
+#include "shell/program.h"
+#include "tests/support/fresh_folder.h"
+
+namespace zifferon {
+namespace {
+
+constexpr std::array delivered = {"font.zfr",
+                                  "rattle1.wav",
+                                  "rattle2.wav",
+                                  "start.wav",
+                                  "switch.wav",
+                                  "switch2.wav",
+                                  "temp.dat",
+                                  "trash.wav",
+                                  "undo.wav",
+                                  "zifferonpro-help_de.chm",
+                                  "zifferonpro-help_en.chm",
+                                  "quicksave.zfr"};
+
+class Start : public testing::Test {
+  protected:
+    Start() {
+        for (const char* name : delivered) folder_.put(name, "");
+    }
+
+    // Starts and types a sum; false where the program has ended itself.
+    bool startAndAdd() {
+        log_.str("");
+        headless_.beginAnew();
+        Program program(machine_);
+        try {
+            program.keys.run([&] { program.start(); });
+            for (const char16_t key : Text(u"5+3\r")) program.keys.stroke(keyOfCharacter(key));
+        } catch (const ProcessEnded&) {
+            return false;
+        }
+        EXPECT_EQ(program.pultform.state.zwischen.text(), u"8,00");
+        return true;
+    }
+
+    bool logHas(const std::string& words) const { return log_.str().find(words) != std::string::npos; }
+
+    FreshFolder folder_;
+    std::ostringstream log_;
+    HeadlessMachine headless_{log_};
+    HeadlessSystem system_;
+    PosixFiles disk_{folder_.path()};
+    FaultyFiles files_{disk_};
+    Machine machine_{headless_, headless_, headless_, files_, headless_, headless_, system_, headless_};
+};
+
+TEST_F(Start, stopsWhereAnyComponentIsMissingAndWritesNothing) {
+    for (const char* name : delivered) {
+        std::filesystem::remove(folder_ / name);
+        EXPECT_FALSE(startAndAdd()) << name;
+        EXPECT_TRUE(logHas("ERROR 001:")) << name;
+        EXPECT_FALSE(folder_.has("language.dat")) << name;
+        folder_.put(name, "");
+    }
+    EXPECT_TRUE(startAndAdd());
+}
+
+TEST_F(Start, stopsInAWriteProtectedFolder) {
+    files_.writable(false);
+    EXPECT_FALSE(startAndAdd());
+    EXPECT_TRUE(logHas("schreibgeschützten Datenträger"));
+    files_.writable(true);
+    EXPECT_TRUE(startAndAdd());
+    EXPECT_TRUE(logHas("window Form3 shown"));
+}
+
+// Whatever a settings file holds, the calculator comes up and computes.
+TEST_F(Start, bearsRubbishInEverySettingsFile) {
+    ASSERT_TRUE(startAndAdd());
+    const std::array contents = {std::string(),
+                                 std::string(1, '\1'),
+                                 std::string(3, '\xFF'),
+                                 std::string(4, '\xFF'),
+                                 std::string(5000, '\xFF'),
+                                 std::string("\x08\0\xFF\xFF\xFF\xFF\xFF\xFF", 8),
+                                 std::string("\0\0\xC0\x7F", 4)};
+    for (const char* name :
+         {"language.dat", "decpoint.dat", "format.dat", "winstate.dat", "gui1.dat", "gui2.dat", "style.dat",
+          "ntcheck.zfr", "wpcheck.zfr", "quicksave.zfr", "font.zfr", "temp.dat"}) {
+        for (const std::string& content : contents) {
+            folder_.put(name, content);
+            // Unformatted numbers and a stored window mode are settings too.
+            headless_.queueAnswer(BoxAnswer::german);
+            log_.str("");
+            headless_.beginAnew();
+            Program program(machine_);
+            ASSERT_NO_THROW(program.keys.run([&] { program.start(); })) << name;
+            for (const char16_t key : Text(u"5+3\r")) program.keys.stroke(keyOfCharacter(key));
+            EXPECT_TRUE(program.pultform.state.operand.equals(8, commaStyle)) << name;
+        }
+        std::filesystem::remove(folder_ / name);
+        folder_.put(name, "");
+    }
+}
+
+// Each operation on the folder fails once: the program ends with its box or goes on, and the next start
+// works.
+TEST_F(Start, survivesAFaultAtEveryOperation) {
+    for (int n = 1;; ++n) {
+        SCOPED_TRACE(n);
+        files_.failOperation(n, FileTrouble::access);
+        startAndAdd();
+        const bool met = files_.faultMet();
+        files_.failOperation(0);
+        EXPECT_TRUE(startAndAdd());
+        if (!met) break;
+        ASSERT_LT(n, 200);
+    }
+}
+
+}  // namespace
+}  // namespace zifferon

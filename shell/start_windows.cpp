@@ -20,6 +20,7 @@ void placeLabel(Control& label, Place place, TextView caption, double points = 8
 
 Form3::Form3() {
     name = u"Form3";
+    caption = u"Zifferon PRO 5.0 - Setup";
     framed = false;
     place = {0, 0, 5700, 2250};
     add(heading, u"heading");

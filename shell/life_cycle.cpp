@@ -261,7 +261,8 @@ void LifeCycle::firstActivation() {
 void LifeCycle::applySettings() {
     const auto scheme = [&](const std::string& file, int standard) {
         const float stored = setting(file);
-        return stored == 0 ? standard : static_cast<int>(std::clamp(stored, -1.0F, 99.0F));
+        constexpr float largest = 16;  // what lies outside is no scheme and changes nothing
+        return stored == 0 ? standard : stored >= 1 && stored <= largest ? static_cast<int>(stored) : 0;
     };
     s.textColourScheme = scheme(settingsFile::textColours, standardTextScheme);
     s.backColourScheme = scheme(settingsFile::backColours, standardBackScheme);

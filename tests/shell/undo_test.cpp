@@ -1,0 +1,87 @@
+// Snapshots that are missing, damaged or in the way.
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "platform/headless/headless_machine.h"
+#include "platform/headless/headless_system.h"
+#include "platform/posix_files.h"
+#include "shell/program.h"
+#include "tests/support/fresh_folder.h"
+
+namespace zifferon {
+namespace {
+
+class UndoFiles : public testing::Test {
+  protected:
+    UndoFiles() { program_.beginFresh(); }
+
+    void type(TextView characters) {
+        for (const char16_t character : characters) program_.keys.stroke(keyOfCharacter(character));
+    }
+    void undo() { program_.keys.stroke({keyCode::right}); }
+    CalculatorState& state() { return program_.pultform.state; }
+    bool logHas(const std::string& words) const { return log_.str().find(words) != std::string::npos; }
+
+    FreshFolder folder_;
+    std::ostringstream log_;
+    HeadlessMachine headless_{log_};
+    HeadlessSystem system_;
+    PosixFiles files_{folder_.path()};
+    Machine machine_{headless_, headless_, headless_, files_, headless_, headless_, system_, headless_};
+    Program program_{machine_};
+};
+
+TEST_F(UndoFiles, aDamagedSnapshotLeavesTheCalculationAlone) {
+    type(u"5+3*");
+    const Text tape = state().anzeige.text();
+    folder_.put("Temp/temp1.tmp", std::string(50, '\xEE'));
+    undo();
+    EXPECT_TRUE(logHas("box warning ok \"Undo\""));
+    EXPECT_EQ(state().anzeige.text(), tape);
+    EXPECT_EQ(state().zwischen.text(), u"8,00");
+    EXPECT_EQ(state().undoCounter, 2);
+    type(u"2\r");
+    EXPECT_EQ(state().zwischen.text(), u"16,00");
+}
+
+TEST_F(UndoFiles, aMissingSnapshotIsAGapAndTheOneBelowComesBack) {
+    type(u"5+3*2-");
+    std::filesystem::remove(folder_ / "Temp/temp2.tmp");
+    undo();
+    EXPECT_EQ(state().zwischen.text(), u"5,00");
+    EXPECT_EQ(state().undoCounter, 1);
+}
+
+TEST_F(UndoFiles, withoutItsFolderTheNextSnapshotEndsTheProcess) {
+    type(u"5+");
+    std::filesystem::remove_all(folder_ / "Temp");
+    EXPECT_THROW(type(u"3+"), ProcessEnded);
+    EXPECT_TRUE(logHas("Zu wenig Arbeitsspeicher"));
+}
+
+TEST_F(UndoFiles, theFolderIsEmptiedButNoLinkIsFollowed) {
+    folder_.put("precious.txt", "figures");
+    std::filesystem::create_symlink(folder_ / "precious.txt", folder_ / "Temp/temp7.tmp");
+    program_.beginFresh();
+    EXPECT_FALSE(std::filesystem::is_symlink(folder_ / "Temp/temp7.tmp"));
+    EXPECT_EQ(folder_.bytes("precious.txt"), "figures");
+    EXPECT_TRUE(folder_.has("Temp/temp0.tmp"));
+}
+
+// A tape far beyond what a 16-bit length can tell comes back whole.
+TEST_F(UndoFiles, aTapeOfAnyLengthComesBack) {
+    Text lines;
+    for (int i = 0; i < 8000; ++i) lines += u"\r\n1.234,56 +   ";
+    state().anzeige.setText(lines);
+    type(u"5+");
+    const Text tape = state().anzeige.text();
+    type(u"3+");
+    undo();
+    EXPECT_GT(tape.size(), 65535u);
+    EXPECT_EQ(state().anzeige.text(), tape);
+}
+
+}  // namespace
+}  // namespace zifferon

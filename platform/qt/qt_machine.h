@@ -5,6 +5,7 @@
 #include "platform/posix_files.h"
 #include "platform/posix_system.h"
 #include "platform/qt/qt_windows.h"
+#include "platform/qt/sound_player.h"
 
 namespace zifferon {
 
@@ -22,7 +23,10 @@ class QtClipboard : public Clipboard {
 class QtSound : public Sound {
   public:
     void beep() override;
-    void play(const std::string&) override {}
+    void play(const std::string& fileName) override { player_.play(fileName); }
+
+  private:
+    SoundPlayer player_;
 };
 
 class QtProcess : public Process {

@@ -1,0 +1,35 @@
+// The real start in the current program folder, without the pauses of the loading window.
+
+#include <QIcon>
+
+#include "bench/first_window.h"
+#include "platform/qt/form_view.h"
+#include "platform/qt/qt_machine.h"
+#include "shell/program.h"
+
+namespace {
+
+using namespace zifferon;
+
+class HastyProcess : public QtProcess {
+  public:
+    void pause(int) override { FormView::refreshAll(); }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication application(argc, argv);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/zifferonpro.svg")));
+    FirstWindow first(argv[1], QStringLiteral("Zifferon PRO 5.0"));
+    QtMachine qt;
+    HastyProcess process;
+    const Machine& all = qt.machine;
+    Machine machine{all.boxes,   all.clipboard, all.sound,  all.files,
+                    all.windows, process,       all.system, all.desktop};
+    Program program(machine);
+    FormView view(program.pultform, program.keys);
+    program.start();
+    return QApplication::exec();
+}

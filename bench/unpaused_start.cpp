@@ -30,6 +30,7 @@ int main(int argc, char** argv) {
                     all.windows, process,       all.system, all.desktop};
     Program program(machine);
     FormView view(program.pultform, program.keys);
+    qt.desktop.attachTo(view);
     program.start();
     return QApplication::exec();
 }

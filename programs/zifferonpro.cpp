@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
     zifferon::QtMachine machine;
     zifferon::Program program(machine.machine);
     zifferon::FormView view(program.pultform, program.keys);
+    machine.desktop.attachTo(view);
     program.start();
     return QApplication::exec();
 }

@@ -13,7 +13,7 @@ namespace {
 std::size_t commonPrefix(std::string_view a, std::string_view b) {
     const std::size_t size = std::min(a.size(), b.size());
     std::size_t same = 0;
-    for (const std::size_t stride : {4096, 64, 1}) {
+    for (const std::size_t stride : {std::size_t{4096}, std::size_t{64}, std::size_t{1}}) {
         while (same + stride <= size && std::memcmp(a.data() + same, b.data() + same, stride) == 0) {
             same += stride;
         }

@@ -2,12 +2,48 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
+#include <QWindow>
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 #include "platform/qt/tape_access.h"
 
 namespace zifferon {
+
+namespace {
+
+int distance(const QRect& area, QPoint point) {
+    const QPoint nearest(std::clamp(point.x(), area.left(), area.right()),
+                         std::clamp(point.y(), area.top(), area.bottom()));
+    return (nearest - point).manhattanLength();
+}
+
+// Where a window wanted at `frame` can be seen: there, if enough of its title can be taken hold of on some
+// screen; otherwise at the nearest place of the nearest screen, with its left and top end if it is too large.
+QPoint visiblePosition(const QRect& frame) {
+    constexpr int grip = 60, titleHeight = frameHeight / twipsPerPixel;
+    QRect nearest;
+    int shortest = std::numeric_limits<int>::max();
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect area = screen->availableGeometry();
+        const QRect title = area & QRect(frame.topLeft(), QSize(frame.width(), titleHeight));
+        if (title.width() >= std::min(grip, frame.width()) && title.height() == titleHeight) {
+            return frame.topLeft();
+        }
+        if (const int away = distance(area, frame.center()); away < shortest) {
+            shortest = away;
+            nearest = area;
+        }
+    }
+    return {std::max(nearest.left(), std::min(frame.left(), nearest.right() + 1 - frame.width())),
+            std::max(nearest.top(), std::min(frame.top(), nearest.bottom() + 1 - frame.height()))};
+}
+
+}  // namespace
 
 FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
     : QWidget(owner),
@@ -21,16 +57,19 @@ FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
     setObjectName(toQString(window.name));
     setWindowFlag(Qt::Dialog, owner != nullptr);
     setWindowFlag(Qt::FramelessWindowHint, !window.framed);
+    setMouseTracking(true);
     for (Control* control : window.controls()) views_.push_back(makeControlView(*control, *this));
     refresh();
 }
 
 void FormView::refresh() {
     refreshFrame();
+    refreshPlace();
+    refreshOnTop();
     for (const auto& view : views_) view->refresh();
     refreshFocus();
     timers_.refresh();
-    if (isVisible() != window_.visible) setVisible(window_.visible);
+    refreshShown();
 }
 
 void FormView::run(const std::function<void()>& handler) {
@@ -63,6 +102,17 @@ bool FormView::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+// The user minimises and restores it too.
+void FormView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange) window_.minimised = isMinimized();
+    QWidget::changeEvent(event);
+}
+
+// What a button does not want of the mouse comes here as well.
+void FormView::mouseMoveEvent(QMouseEvent* event) {
+    if (childAt(event->position().toPoint()) == nullptr) run(window_.onMouseMove);
+}
+
 void FormView::moveEvent(QMoveEvent*) {
     window_.place.left = place_.left = pos().x() * twipsPerPixel;
     window_.place.top = place_.top = pos().y() * twipsPerPixel;
@@ -89,16 +139,35 @@ void FormView::refreshFrame() {
         colours.setColor(QPalette::Window, colourOf(window_.backColour));
         setPalette(colours);
     }
-    const Place& place = window_.place;
+}
+
+void FormView::refreshPlace() {
+    Place& place = window_.place;
     if (place == place_) return;
     if (place.width != place_.width || place.height != place_.height) {
         const int frameTwips[] = {window_.framed ? frameWidth : 0, window_.framed ? frameHeight : 0};
         setFixedSize(pixels({0, 0, place.width - frameTwips[0], place.height - frameTwips[1]}).size());
     }
     if (place.left != place_.left || place.top != place_.top) {
-        move(pixels(place).topLeft());
+        const QRect wanted = pixels(place);
+        const QPoint position = visiblePosition(wanted);
+        if (position != wanted.topLeft()) {
+            place.left = position.x() * twipsPerPixel;
+            place.top = position.y() * twipsPerPixel;
+        }
+        move(position);
     }
-    place_ = window_.place;
+    place_ = place;
+}
+
+// A change of the widget's flag would make a new window of the screen; that of the window does not.
+void FormView::refreshOnTop() {
+    if (std::exchange(alwaysOnTop_, window_.alwaysOnTop) == window_.alwaysOnTop) return;
+    if (windowHandle() != nullptr) {
+        windowHandle()->setFlag(Qt::WindowStaysOnTopHint, alwaysOnTop_);
+    } else {
+        setWindowFlag(Qt::WindowStaysOnTopHint, alwaysOnTop_);
+    }
 }
 
 void FormView::refreshFocus() {
@@ -107,6 +176,20 @@ void FormView::refreshFocus() {
     if (view != views_.end() && focusWidget() != &(*view)->widget()) {
         (*view)->widget().setFocus(Qt::OtherFocusReason);
     }
+}
+
+// A window that comes back comes to the front, and where it was: left to itself, the window manager would
+// look for a new place.
+void FormView::refreshShown() {
+    if (isVisible() == window_.visible && isMinimized() == window_.minimised) return;
+    const bool comesBack = !isVisible() && windowHandle() != nullptr;
+    if (comesBack) move(pos());
+    setWindowState(window_.minimised ? windowState() | Qt::WindowMinimized
+                                     : windowState() & ~Qt::WindowMinimized);
+    setVisible(window_.visible);
+    if (!window_.visible || window_.minimised) return;
+    raise();
+    activateWindow();
 }
 
 }  // namespace zifferon

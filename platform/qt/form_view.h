@@ -37,11 +37,16 @@ class FormView : public QWidget {
 
   private:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void refreshFrame();
+    void refreshPlace();
+    void refreshOnTop();
     void refreshFocus();
+    void refreshShown();
 
     Window& window_;
     KeyRoad& keys_;
@@ -53,6 +58,7 @@ class FormView : public QWidget {
     Place place_;
     std::optional<Text> caption_;
     std::optional<Colour> backColour_;
+    bool alwaysOnTop_ = false;
 };
 
 }  // namespace zifferon

@@ -88,6 +88,9 @@ std::optional<Key> typedKey(QChar character) {
     return keyOfCharacter(character.unicode());
 }
 
+// Between the two events of one repetition, in milliseconds.
+constexpr int longestGap = 5;
+
 bool isLineEnd(QChar character) { return character == u'\r' || character == u'\n'; }
 
 }  // namespace
@@ -110,11 +113,14 @@ KeyEvents::KeyEvents(QWidget& form, Window& window, KeyRoad& keys, std::function
     : form_(form), window_(window), keys_(keys), press_(std::move(press)), refresh_(std::move(refresh)) {
     // Only there every key comes by before a widget or a shortcut can take it.
     qApp->installEventFilter(this);
+    releaseTimer_.setSingleShot(true);
+    connect(&releaseTimer_, &QTimer::timeout, [this] { settleRelease(); });
 }
 
 bool KeyEvents::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() == QEvent::WindowDeactivate && receiver == &form_) {
         held_.clear();
+        release_.reset();
         keys_.releaseAll();
         refresh_();
         return false;
@@ -145,6 +151,7 @@ bool KeyEvents::eventFilter(QObject* receiver, QEvent* event) {
 }
 
 void KeyEvents::keyPressed(const QKeyEvent& event) {
+    settleReleaseBefore(event);
     const quint32 scanCode = event.nativeScanCode();
     // A key that went down in another window repeats here, and stays that window's.
     if (event.isAutoRepeat() && !held_.contains(scanCode)) return;
@@ -169,9 +176,28 @@ void KeyEvents::keyPressed(const QKeyEvent& event) {
 }
 
 void KeyEvents::keyReleased(const QKeyEvent& event) {
+    settleRelease();
     if (event.isAutoRepeat() || !held_.contains(event.nativeScanCode())) return;
-    letGoOf(event.nativeScanCode());
+    release_ = Release{event.nativeScanCode(), event.timestamp()};
+    releaseTimer_.start(longestGap);
+}
+
+void KeyEvents::settleRelease() {
+    releaseTimer_.stop();
+    const auto release = std::exchange(release_, std::nullopt);
+    if (!release || !held_.contains(release->scanCode)) return;
+    letGoOf(release->scanCode);
     refresh_();
+}
+
+// A repeating key comes as a release and a press of the same moment. On a busy machine the toolkit may not
+// see the press yet when it tells of the release, and so does not call it a repetition.
+void KeyEvents::settleReleaseBefore(const QKeyEvent& press) {
+    const bool repeats =
+        release_ && release_->scanCode == press.nativeScanCode() && release_->timestamp == press.timestamp();
+    if (!repeats) return settleRelease();
+    releaseTimer_.stop();
+    release_.reset();
 }
 
 void KeyEvents::letGoOf(quint32 scanCode) {

@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QObject>
+#include <QTimer>
 #include <functional>
 #include <map>
 #include <optional>
@@ -27,6 +28,8 @@ class KeyEvents : public QObject {
     bool eventFilter(QObject* receiver, QEvent* event) override;
     void keyPressed(const QKeyEvent& event);
     void keyReleased(const QKeyEvent& event);
+    void settleRelease();
+    void settleReleaseBefore(const QKeyEvent& press);
     void letGoOf(quint32 scanCode);
     void paste(const QString& text);
     void type(const QString& text);
@@ -41,6 +44,14 @@ class KeyEvents : public QObject {
     // Physical keys that are down, by scan code: the key itself may be another one at its release, when Shift
     // was let go first.
     std::map<quint32, Key> held_;
+
+    // A release that may turn out to be half of a repetition.
+    struct Release {
+        quint32 scanCode;
+        quint64 timestamp;
+    };
+    std::optional<Release> release_;
+    QTimer releaseTimer_;
 };
 
 }  // namespace zifferon

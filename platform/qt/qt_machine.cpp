@@ -2,10 +2,10 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QEventLoop>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
+#include <QThread>
 #include <cstdlib>
 
 #include "platform/qt/control_view.h"
@@ -71,9 +71,12 @@ void QtProcess::end() { std::_Exit(EXIT_SUCCESS); }
 
 void QtProcess::pause(int milliseconds) {
     FormView::refreshAll();
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() < milliseconds) {
+        QCoreApplication::processEvents();
+        QThread::msleep(2);
+    }
 }
 
 }  // namespace zifferon

@@ -4,6 +4,7 @@
 #include "platform/machine.h"
 #include "platform/posix_files.h"
 #include "platform/posix_system.h"
+#include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_windows.h"
 #include "platform/qt/sound_player.h"
 
@@ -36,16 +37,6 @@ class QtProcess : public Process {
 };
 
 // The current folder becomes the program folder; throws FileFailure where it cannot be opened.
-// A desktop that offers nothing beside windows.
-class PlainDesktop : public Desktop {
-  public:
-    bool hasTray() override { return false; }
-    void addTrayIcon() override {}
-    void removeTrayIcon() override {}
-    void registerHotKey() override {}
-    void unregisterHotKey() override {}
-};
-
 class QtMachine {
     QtBoxes boxes_;
     QtClipboard clipboard_;
@@ -54,10 +45,10 @@ class QtMachine {
     QtWindows windows_{sound_};
     QtProcess process_;
     PosixSystem system_;
-    PlainDesktop desktop_;
 
   public:
-    Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_, system_, desktop_};
+    QtDesktop desktop;
+    Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_, system_, desktop};
 };
 
 }  // namespace zifferon

@@ -23,7 +23,7 @@ TextView beforeMark(TextView line) {
     const auto trimmed = [](TextView text) { return text.substr(0, text.find_last_not_of(u' ') + 1); };
     const TextView text = trimmed(line);
     const std::size_t mark = text.rfind(u' ') + 1;
-    const auto isSign = [](char16_t c) { return !QChar(c).isLetterOrNumber(); };
+    const auto isSign = [](char16_t c) { return c == u'x' || !QChar(c).isLetterOrNumber(); };
     if (mark == 0 || !std::all_of(text.begin() + std::ptrdiff_t(mark), text.end(), isSign)) return text;
     return trimmed(text.substr(0, mark));
 }

@@ -1,0 +1,46 @@
+#include "platform/qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include "platform/qt/form_view.h"
+
+namespace zifferon {
+
+void QtDesktop::addTrayIcon() {
+    if (!tray_) makeTray();
+    tray_->icon.show();
+}
+
+void QtDesktop::removeTrayIcon() {
+    if (tray_) tray_->icon.hide();
+}
+
+void QtDesktop::makeTray() {
+    tray_ = std::make_unique<Tray>();
+    const auto addEntry = [this](const char* text, const std::function<void()>& handler) {
+        QObject::connect(tray_->menu.addAction(QString::fromLatin1(text)), &QAction::triggered,
+                         [this, &handler] { runUnlessModal(handler); });
+    };
+    addEntry("Show", onTrayShow);
+    addEntry("Exit", onTrayExit);
+    tray_->icon.setIcon(QIcon(QStringLiteral(":/pictures/zifferonpro.svg")));
+    tray_->icon.setToolTip(QStringLiteral("Zifferon PRO"));
+    tray_->icon.setContextMenu(&tray_->menu);
+    QObject::connect(&tray_->icon, &QSystemTrayIcon::activated,
+                     [this](QSystemTrayIcon::ActivationReason reason) {
+                         if (reason == QSystemTrayIcon::DoubleClick) runUnlessModal(onTrayDoubleClick);
+                     });
+}
+
+bool QtDesktop::run(const std::function<void()>& handler) {
+    if (mainWindow_ == nullptr || !handler) return false;
+    mainWindow_->run(handler);
+    return true;
+}
+
+void QtDesktop::runUnlessModal(const std::function<void()>& handler) {
+    if (QApplication::activeModalWidget() == nullptr) run(handler);
+}
+
+}  // namespace zifferon

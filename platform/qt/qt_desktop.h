@@ -1,0 +1,44 @@
+// The desktop beside the windows, on Qt: tray, hot key, and the end of the session.
+#pragma once
+
+#include <QMenu>
+#include <QSystemTrayIcon>
+#include <memory>
+
+#include "platform/desktop.h"
+#include "platform/qt/hot_key.h"
+#include "platform/qt/session_end.h"
+
+namespace zifferon {
+
+class FormView;
+
+// While a modal window or a box of the program is open, neither the hot key nor the tray does anything.
+class QtDesktop : public Desktop {
+  public:
+    // Handlers run as those of the main window, and queue their keys there: from now on, as long as it lives.
+    void attachTo(FormView& mainWindow) { mainWindow_ = &mainWindow; }
+
+    bool hasTray() override { return QSystemTrayIcon::isSystemTrayAvailable(); }
+    void addTrayIcon() override;
+    void removeTrayIcon() override;
+    void registerHotKey() override { hotKey_.grab(); }
+    void unregisterHotKey() override { hotKey_.release(); }
+
+  private:
+    struct Tray {
+        QMenu menu;
+        QSystemTrayIcon icon;
+    };
+
+    void makeTray();
+    bool run(const std::function<void()>& handler);
+    void runUnlessModal(const std::function<void()>& handler);
+
+    FormView* mainWindow_ = nullptr;
+    std::unique_ptr<Tray> tray_;  // none before the first icon
+    HotKey hotKey_{[this] { runUnlessModal(onHotKey); }};
+    SessionEnd sessionEnd_{[this] { return run(onSessionEnd); }};
+};
+
+}  // namespace zifferon

@@ -1,0 +1,271 @@
+// What the desktop does beside keys and mouse: the front, the tray, the hot key, and the end of the session.
+#include <QApplication>
+#include <QProcess>
+#include <QScreen>
+#include <QStandardPaths>
+#include <csignal>
+#include <optional>
+
+#include "tests/window/other_program.h"
+#include "tests/window/window_fixture.h"
+
+namespace zifferon::test {
+
+namespace {
+
+class DesktopTest : public WindowTest {
+  protected:
+    void SetUp() override {
+        WindowTest::SetUp();
+        desktop.attachTo(view);
+        desktop.onHotKey = [this] { ++hotKeys; };
+    }
+
+    Pultform& window() { return program.pultform; }
+
+    void openAnotherProgram() {
+        other.emplace();
+        ASSERT_TRUE(comesTrue([&] { return other->hasKeyboard() && !view.isActiveWindow(); }));
+    }
+
+    void pressHotKey() { pressWith(keys::control, keys::keypadAdd); }
+
+    bool hotKeysCome(int count) {
+        return comesTrue([&] { return hotKeys == count; }, 2000);
+    }
+
+    QtDesktop& desktop = machine.desktop;
+    std::optional<OtherProgram> other;
+    int hotKeys = 0;
+};
+
+TEST_F(DesktopTest, HotKeyComesFromAnyProgramWhateverTheLocksSay) {
+    const int capsLock = 66;
+    desktop.registerHotKey();
+    openAnotherProgram();
+    for (const bool numLock : {true, false}) {
+        hands.setNumLock(numLock);
+        for (int caps = 0; caps < 2; ++caps) {
+            hotKeys = 0;
+            pressHotKey();
+            EXPECT_TRUE(hotKeysCome(1)) << numLock << caps;
+            hands.stroke({capsLock});
+        }
+    }
+    EXPECT_EQ(other->pressesOf(keys::keypadAdd), 0);
+
+    desktop.unregisterHotKey();
+    pressHotKey();
+    EXPECT_TRUE(comesTrue([&] { return other->pressesOf(keys::keypadAdd) == 1; }));
+    EXPECT_EQ(hotKeys, 1);
+}
+
+TEST_F(DesktopTest, HeldHotKeyCountsOnceAndTypesNothing) {
+    desktop.registerHotKey();
+    hands.down(keys::control);
+    hands.down(keys::keypadAdd);
+    letPass(1000);
+    hands.up(keys::keypadAdd);
+    hands.up(keys::control);
+    letPass(50);
+    EXPECT_EQ(hotKeys, 1);
+    pressHotKey();
+    EXPECT_TRUE(hotKeysCome(2));
+    EXPECT_EQ(tape(), "");
+}
+
+TEST_F(DesktopTest, HotKeyFollowsTheKeyboard) {
+    constexpr xcb_keysym_t keypadAdd = 0xFFAB, nothing = 0;
+    const int unusedKey = 248;
+    desktop.registerHotKey();
+    openAnotherProgram();
+    other->setMeaning(keys::keypadAdd, nothing);
+    other->setMeaning(unusedKey, keypadAdd);
+    letPass(100);
+    pressWith(keys::control, unusedKey);
+    EXPECT_TRUE(hotKeysCome(1));
+    other->setMeaning(keys::keypadAdd, keypadAdd);
+    other->setMeaning(unusedKey, nothing);
+    letPass(100);
+    pressHotKey();
+    EXPECT_TRUE(hotKeysCome(2));
+}
+
+TEST_F(DesktopTest, HotKeyOfAnotherProgramStaysThere) {
+    openAnotherProgram();
+    other->grabWithControl(keys::keypadAdd);
+    desktop.registerHotKey();
+    pressHotKey();
+    EXPECT_TRUE(comesTrue([&] { return other->pressesOf(keys::keypadAdd) == 1; }));
+    EXPECT_EQ(hotKeys, 0);
+}
+
+TEST_F(DesktopTest, HotKeyDoesNothingBehindABox) {
+    desktop.registerHotKey();
+    whenAWindowOpens([this](QWidget& shown) {
+        pressHotKey();
+        letPass(100);
+        shown.close();
+    });
+    view.run([this] { machine.machine.boxes.show({}); });
+    EXPECT_EQ(hotKeys, 0);
+    pressHotKey();
+    EXPECT_TRUE(hotKeysCome(1));
+}
+
+TEST_F(DesktopTest, HandlersQueueKeysForTheMainWindow) {
+    desktop.registerHotKey();
+    desktop.onHotKey = [this] { program.keys.queue(keyOfCharacter(u'7')); };
+    pressHotKey();
+    EXPECT_TRUE(comesTrue([&] { return entry() == "7"; }));
+}
+
+TEST_F(DesktopTest, StaysOnTopAsTheSameWindow) {
+    openAnotherProgram();
+    const WId id = view.internalWinId();
+    for (const bool on : {true, false, true}) {
+        window().alwaysOnTop = on;
+        view.refresh();
+        EXPECT_TRUE(comesTrue([&] { return other->isOnTop(view) == on; }));
+        EXPECT_EQ(view.internalWinId(), id);
+        EXPECT_TRUE(view.isVisible());
+    }
+    window().visible = false;
+    view.refresh();
+    window().visible = true;
+    view.refresh();
+    EXPECT_TRUE(comesTrue([&] { return other->isOnTop(view); }));
+}
+
+TEST_F(DesktopTest, HiddenWindowComesBackToTheFrontWhereItWas) {
+    window().place.left = 300 * twipsPerPixel;
+    window().place.top = 200 * twipsPerPixel;
+    view.refresh();
+    letPass(100);
+    const QPoint position = view.pos();
+    EXPECT_EQ(position, QPoint(300, 200));
+    openAnotherProgram();
+    window().visible = false;
+    view.refresh();
+    letPass(100);
+    window().visible = true;
+    view.refresh();
+    EXPECT_TRUE(comesTrue([&] { return view.isActiveWindow(); }));
+    letPass(100);
+    EXPECT_EQ(view.pos(), position);
+    hands.stroke({keys::keypad5});
+    EXPECT_TRUE(comesTrue([&] { return entry() == "5"; }));
+}
+
+TEST_F(DesktopTest, MinimisedByTheProgramOrTheUser) {
+    openAnotherProgram();
+    const auto minimisedEverywhere = [&](bool minimised) {
+        return comesTrue([&] {
+            return window().minimised == minimised && other->isMinimised(view) == minimised &&
+                   view.isActiveWindow() != minimised;
+        });
+    };
+    window().minimised = true;
+    view.refresh();
+    EXPECT_TRUE(minimisedEverywhere(true));
+    other->bringToFront(view);
+    EXPECT_TRUE(minimisedEverywhere(false));
+    other->minimise(view);
+    EXPECT_TRUE(minimisedEverywhere(true));
+    window().minimised = false;
+    view.refresh();
+    EXPECT_TRUE(minimisedEverywhere(false));
+}
+
+TEST_F(DesktopTest, WindowIsPlacedWhereItCanBeSeen) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const auto placedAt = [&](QPoint position) {
+        window().place.left = position.x() * twipsPerPixel;
+        window().place.top = position.y() * twipsPerPixel;
+        view.refresh();
+        letPass(100);
+        EXPECT_EQ(window().place.left, view.pos().x() * twipsPerPixel);
+        return view.frameGeometry();
+    };
+    EXPECT_TRUE(screen.contains(placedAt({5000, 4000})));
+    EXPECT_TRUE(screen.contains(placedAt({-3000, -3000})));
+    const QPoint halfOutside(screen.right() - 200, screen.bottom() - 100);
+    EXPECT_EQ(placedAt(halfOutside).topLeft(), halfOutside);
+    window().place.width = 3000 * twipsPerPixel;
+    EXPECT_EQ(placedAt({5000, 10}).topLeft(), QPoint(screen.left(), 10));
+}
+
+TEST_F(DesktopTest, MouseOverTheBareWindow) {
+    int moves = 0;
+    window().onMouseMove = [&] { ++moves; };
+    QPoint bare;
+    while (view.childAt(bare) != nullptr && bare.x() < view.width()) bare += QPoint(1, 1);
+    ASSERT_EQ(view.childAt(bare), nullptr);
+    hands.moveMouse(onScreen(state().rndright, {5, 5}));
+    letPass(50);
+    EXPECT_EQ(moves, 0);
+    hands.moveMouse(view.mapToGlobal(bare));
+    EXPECT_TRUE(comesTrue([&] { return moves == 1; }));
+}
+
+TEST_F(DesktopTest, SignalEndsTheSessionOnce) {
+    int ends = 0;
+    desktop.onSessionEnd = [&] {
+        ++ends;
+        std::raise(SIGHUP);
+        letPass(50);
+    };
+    std::raise(SIGTERM);
+    EXPECT_TRUE(comesTrue([&] { return ends == 1; }));
+    letPass(50);
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(DesktopTest, TrayIconAndItsMenu) {
+    const QString host = QStandardPaths::findExecutable(QStringLiteral("trayer"));
+    if (host.isEmpty()) GTEST_SKIP() << "missing: trayer";
+    EXPECT_FALSE(desktop.hasTray());
+    QProcess tray;
+    tray.start(host,
+               QStringLiteral("--edge bottom --align left --widthtype request --height 24").split(u' '));
+    ASSERT_TRUE(comesTrue([&] { return desktop.hasTray(); }));
+
+    std::string seen;
+    desktop.onTrayDoubleClick = [&] { seen += "double "; };
+    desktop.onTrayShow = [&] { seen += "show "; };
+    desktop.onTrayExit = [&] { seen += "exit "; };
+    desktop.addTrayIcon();
+    desktop.addTrayIcon();
+    letPass(500);
+    const int down = 116, right = 3;
+    hands.moveMouse({12, QGuiApplication::primaryScreen()->geometry().height() - 12});
+    hands.click();
+    letPass(500);
+    EXPECT_EQ(seen, "");
+    hands.click();
+    hands.click();
+    EXPECT_TRUE(comesTrue([&] { return seen == "double "; }, 2000)) << seen;
+    for (const auto& entries : {std::initializer_list<int>{down, keys::enter}, {down, down, keys::enter}}) {
+        hands.click(right);
+        ASSERT_TRUE(comesTrue([] { return QApplication::activePopupWidget() != nullptr; }));
+        letPass(100);
+        hands.stroke(entries);
+        ASSERT_TRUE(comesTrue([] { return QApplication::activePopupWidget() == nullptr; }));
+    }
+    EXPECT_TRUE(comesTrue([&] { return seen == "double show exit "; }, 2000)) << seen;
+
+    desktop.removeTrayIcon();
+    desktop.removeTrayIcon();
+    letPass(200);
+    hands.click();
+    hands.click();
+    letPass(200);
+    EXPECT_EQ(seen, "double show exit ");
+    tray.terminate();
+    EXPECT_TRUE(tray.waitForFinished());
+    EXPECT_TRUE(comesTrue([&] { return !desktop.hasTray(); }));
+}
+
+}  // namespace
+
+}  // namespace zifferon::test

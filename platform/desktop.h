@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 namespace zifferon {
 
@@ -25,6 +26,9 @@ class Desktop {
     // A key that another program holds, or a desktop that gives none, is no failure.
     virtual void registerHotKey() = 0;
     virtual void unregisterHotKey() = 0;
+
+    // Opens a file of the program folder with the program that the desktop has for it. A failure is silent.
+    virtual void openDocument(const std::string& fileName) = 0;
 };
 
 }  // namespace zifferon

@@ -79,7 +79,10 @@ void Program::wireCalls() {
     };
     s.calls.focusEntry = [this] { pultform.setFocus(pultform.state.eingabe); };
     s.calls.placeTexterror = [this] { pultform.placeTexterror(); };
-    s.calls.openHelp = [] {};
+    s.calls.openHelp = [this, &s] {
+        machine_.desktop.openDocument(s.languageEnglish ? "zifferonpro-help_en.chm"
+                                                        : "zifferonpro-help_de.chm");
+    };
     s.calls.beep = [this] { machine_.sound.beep(); };
 }
 

@@ -139,6 +139,10 @@ void HeadlessMachine::tellOf(const Window& window, const char* what) {
     log_ << "window " << toUtf8(window.name) << ' ' << what << '\n';
 }
 
+void HeadlessMachine::openDocument(const std::string& fileName) {
+    log_ << "open " << quoted(fromUtf8(fileName)) << '\n';
+}
+
 void HeadlessMachine::addTrayIcon() {
     if (!std::exchange(trayIcon_, true)) log_ << "tray icon added\n";
 }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QProcess>
 
 #include "platform/qt/form_view.h"
 
@@ -41,6 +42,20 @@ bool QtDesktop::run(const std::function<void()>& handler) {
 
 void QtDesktop::runUnlessModal(const std::function<void()>& handler) {
     if (QApplication::activeModalWidget() == nullptr) run(handler);
+}
+
+void QtDesktop::openDocument(const std::string& fileName) {
+    auto* const opener = new QProcess(qApp);
+    const auto finished = [this, opener, fileName](int exitCode, QProcess::ExitStatus) {
+        opener->deleteLater();
+        const bool compressed = fileName.ends_with(".chm");
+        if (exitCode != 0 && compressed) openDocument(fileName.substr(0, fileName.size() - 4) + ".html");
+    };
+    QObject::connect(opener, &QProcess::finished, finished);
+    QObject::connect(opener, &QProcess::errorOccurred, opener, &QObject::deleteLater);
+    opener->setStandardOutputFile(QProcess::nullDevice());
+    opener->setStandardErrorFile(QProcess::nullDevice());
+    opener->start(QStringLiteral("xdg-open"), {QString::fromStdString(fileName)});
 }
 
 }  // namespace zifferon

@@ -25,6 +25,9 @@ class QtDesktop : public Desktop {
     void registerHotKey() override { hotKey_.grab(); }
     void unregisterHotKey() override { hotKey_.release(); }
 
+    // The guide has a page in HTML beside it, for a desktop without a viewer for compressed help.
+    void openDocument(const std::string& fileName) override;
+
   private:
     struct Tray {
         QMenu menu;

@@ -160,14 +160,11 @@ void FormView::refreshPlace() {
     place_ = place;
 }
 
-// A change of the widget's flag would make a new window of the screen; that of the window does not.
+// Setting the widget's flag alone would make a new window of the screen; it is told without.
 void FormView::refreshOnTop() {
     if (std::exchange(alwaysOnTop_, window_.alwaysOnTop) == window_.alwaysOnTop) return;
-    if (windowHandle() != nullptr) {
-        windowHandle()->setFlag(Qt::WindowStaysOnTopHint, alwaysOnTop_);
-    } else {
-        setWindowFlag(Qt::WindowStaysOnTopHint, alwaysOnTop_);
-    }
+    overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, alwaysOnTop_));
+    if (windowHandle() != nullptr) windowHandle()->setFlag(Qt::WindowStaysOnTopHint, alwaysOnTop_);
 }
 
 void FormView::refreshFocus() {

@@ -1,5 +1,6 @@
 #include "tests/window/other_program.h"
 
+#include <QWindow>
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -26,15 +27,15 @@ bool OtherProgram::hasKeyboard() {
     return has;
 }
 
-int OtherProgram::pressesOf(int keyCode) {
+bool OtherProgram::wasGiven(int keyCode) {
     settle();
-    int presses = 0;
     while (xcb_generic_event_t* const event = xcb_poll_for_event(x_)) {
-        const bool press = (event->response_type & 0x7F) == XCB_KEY_PRESS;
-        if (press && reinterpret_cast<xcb_key_press_event_t*>(event)->detail == keyCode) ++presses;
+        if ((event->response_type & 0x7F) == XCB_KEY_PRESS) {
+            given_.insert(reinterpret_cast<xcb_key_press_event_t*>(event)->detail);
+        }
         std::free(event);
     }
-    return presses;
+    return given_.contains(keyCode);
 }
 
 void OtherProgram::grabWithControl(int keyCode) {
@@ -78,7 +79,7 @@ xcb_atom_t OtherProgram::atom(const char* name) {
 
 bool OtherProgram::propertyHolds(const QWidget& window, const char* property, std::uint32_t value) {
     constexpr std::uint32_t atMost = 32;
-    const auto asked = xcb_get_property(x_, 0, static_cast<xcb_window_t>(window.internalWinId()),
+    const auto asked = xcb_get_property(x_, 0, static_cast<xcb_window_t>(window.windowHandle()->winId()),
                                         atom(property), XCB_GET_PROPERTY_TYPE_ANY, 0, atMost);
     auto* const reply = xcb_get_property_reply(x_, asked, nullptr);
     if (reply == nullptr) return false;
@@ -93,7 +94,7 @@ void OtherProgram::askManager(const QWidget& window, const char* request, std::u
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
-    message.window = static_cast<xcb_window_t>(window.internalWinId());
+    message.window = static_cast<xcb_window_t>(window.windowHandle()->winId());
     message.type = atom(request);
     message.data.data32[0] = what;
     xcb_send_event(x_, 0, root_, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,

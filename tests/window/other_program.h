@@ -5,6 +5,7 @@
 
 #include <QWidget>
 #include <cstdint>
+#include <set>
 
 namespace zifferon::test {
 
@@ -18,8 +19,8 @@ class OtherProgram {
 
     bool hasKeyboard();
 
-    // Presses of that key that came to its window since the last call, repeats included.
-    int pressesOf(int keyCode);
+    // Whether a press of that key has come to it.
+    bool wasGiven(int keyCode);
 
     // Takes that key together with Control from all programs.
     void grabWithControl(int keyCode);
@@ -43,6 +44,7 @@ class OtherProgram {
 
     xcb_connection_t* x_;
     xcb_window_t root_, window_;
+    std::set<int> given_;
 };
 
 }  // namespace zifferon::test

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <algorithm>
 
 #include "platform/qt/form_view.h"
 
@@ -22,12 +21,12 @@ struct QtWindows::Shown {
 
 namespace {
 
-bool hasView(const Window& window) {
-    const auto widgets = QApplication::topLevelWidgets();
-    return std::any_of(widgets.begin(), widgets.end(), [&](QWidget* widget) {
-        const auto* const view = dynamic_cast<FormView*>(widget);
-        return view != nullptr && &view->window() == &window;
-    });
+FormView* viewOf(const Window& window) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* const view = dynamic_cast<FormView*>(widget);
+        if (view != nullptr && &view->window() == &window) return view;
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -36,9 +35,12 @@ QtWindows::QtWindows(Sound& sound) : sound_(sound) {}
 QtWindows::~QtWindows() = default;
 
 void QtWindows::show(Window& window) {
-    if (!hasView(window)) shown_.push_back(std::make_unique<Shown>(window, sound_, nullptr));
+    if (viewOf(window) == nullptr) shown_.push_back(std::make_unique<Shown>(window, sound_, nullptr));
     window.visible = true;
     FormView::refreshAll();
+    FormView* const view = viewOf(window);
+    view->raise();
+    view->activateWindow();
 }
 
 void QtWindows::hide(Window& window) {

@@ -158,6 +158,28 @@ TEST_F(DesktopTest, HiddenWindowComesBackToTheFrontWhereItWas) {
     EXPECT_TRUE(comesTrue([&] { return entry() == "5"; }));
 }
 
+TEST_F(DesktopTest, MinimisedByTheProgramOrTheUser) {
+    openAnotherProgram();
+    const auto minimisedEverywhere = [&](bool minimised) {
+        const bool everywhere = comesTrue([&] {
+            return window().minimised == minimised && other->isMinimised(view) == minimised &&
+                   view.isActiveWindow() != minimised;
+        });
+        letPass(100);  // a change back at once would escape the toolkit
+        return everywhere;
+    };
+    window().minimised = true;
+    view.refresh();
+    EXPECT_TRUE(minimisedEverywhere(true));
+    other->bringToFront(view);
+    EXPECT_TRUE(minimisedEverywhere(false));
+    other->minimise(view);
+    EXPECT_TRUE(minimisedEverywhere(true));
+    window().minimised = false;
+    view.refresh();
+    EXPECT_TRUE(minimisedEverywhere(false));
+}
+
 TEST_F(DesktopTest, WindowIsPlacedWhereItCanBeSeen) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const auto placedAt = [&](QPoint position) {
@@ -200,6 +222,53 @@ TEST_F(DesktopTest, SignalEndsTheSessionOnce) {
     EXPECT_TRUE(comesTrue([&] { return ends == 1; }));
     letPass(50);
     EXPECT_EQ(ends, 1);
+}
+
+TEST_F(DesktopTest, TrayIconAndItsMenu) {
+    const QString host = QStandardPaths::findExecutable(QStringLiteral("trayer"));
+    if (host.isEmpty()) GTEST_SKIP() << "missing: trayer";
+    EXPECT_FALSE(desktop.hasTray());
+    QProcess tray;
+    tray.start(host,
+               QStringLiteral("--edge bottom --align left --widthtype request --height 24").split(u' '));
+    ASSERT_TRUE(comesTrue([&] { return desktop.hasTray(); }));
+
+    std::string seen;
+    desktop.onTrayDoubleClick = [&] { seen += "double "; };
+    desktop.onTrayShow = [&] { seen += "show "; };
+    desktop.onTrayExit = [&] { seen += "exit "; };
+    desktop.addTrayIcon();
+    desktop.addTrayIcon();
+    letPass(500);
+    const int down = 116, right = 3;
+    hands.moveMouse({12, QGuiApplication::primaryScreen()->geometry().height() - 12});
+    hands.click();
+    letPass(500);
+    EXPECT_EQ(seen, "");
+    hands.click();
+    hands.click();
+    EXPECT_TRUE(comesTrue([&] { return seen == "double "; }, 2000)) << seen;
+    for (const auto& entries : {std::initializer_list<int>{down, keys::enter}, {down, down, keys::enter}}) {
+        hands.click(right);
+        ASSERT_TRUE(comesTrue([] { return QApplication::activePopupWidget() != nullptr; })) << seen;
+        letPass(100);
+        hands.stroke(entries);
+        ASSERT_TRUE(comesTrue([] { return QApplication::activePopupWidget() == nullptr; }));
+        hands.click();  // the toolkit keeps the first press after a menu to itself
+        letPass(500);
+    }
+    EXPECT_TRUE(comesTrue([&] { return seen == "double show exit "; }, 2000)) << seen;
+
+    desktop.removeTrayIcon();
+    desktop.removeTrayIcon();
+    letPass(200);
+    hands.click();
+    hands.click();
+    letPass(200);
+    EXPECT_EQ(seen, "double show exit ");
+    tray.terminate();
+    EXPECT_TRUE(tray.waitForFinished());
+    EXPECT_TRUE(comesTrue([&] { return !desktop.hasTray(); }));
 }
 
 }  // namespace

@@ -134,6 +134,7 @@ std::vector<std::int16_t> Track::finished() const {
     for (const double sample : samples) peak = std::max(peak, std::abs(sample));
     const double gain = 32767 * std::pow(10, -3.0 / 20) / peak;
     std::vector<std::int16_t> result;
+    result.reserve(samples.size());
     for (const double sample : samples)
         result.push_back(static_cast<std::int16_t>(std::lround(sample * gain)));
     return result;

@@ -12,7 +12,9 @@ int main(int count, char** arguments) {
     for (int i = 1; i + 1 < count; i += 2) {
         player.play(arguments[i]);
         QEventLoop loop;
-        QTimer::singleShot(std::atoi(arguments[i + 1]), &loop, &QEventLoop::quit);
+        QTimer clock;
+        QObject::connect(&clock, &QTimer::timeout, &loop, &QEventLoop::quit);
+        clock.start(std::atoi(arguments[i + 1]));
         loop.exec();
     }
     return 0;

@@ -47,6 +47,10 @@ void TextField::editByKey(int code) {
                 return moveByLines(-pageLines);
             case keyCode::pageDown:
                 return moveByLines(pageLines);
+            case keyCode::home:
+                return setCaret(lineStart(caret_));
+            case keyCode::end:
+                return setCaret(lineEnd(caret_));
             default:
                 break;
         }
@@ -54,16 +58,16 @@ void TextField::editByKey(int code) {
     switch (code) {
         case keyCode::left:
         case keyCode::up:
-            return setCaret(selection_ > 0 || caret_ == 0 ? caret_ : caret_ - 1);
+            return setCaret(selection_ > 0 ? caret_ : before(caret_));
         case keyCode::right:
         case keyCode::down:
-            return setCaret(selection_ > 0 ? caret_ + selection_ : caret_ + 1);
+            return setCaret(selection_ > 0 ? caret_ + selection_ : behind(caret_));
         case keyCode::home:
             return setCaret(0);
         case keyCode::end:
             return caretToEnd();
         case keyCode::del:
-            if (!locked) replace(caret_, selection_ > 0 ? selection_ : 1, u"");
+            if (!locked) replace(caret_, selection_ > 0 ? selection_ : behind(caret_) - caret_, u"");
             return;
         default:
             return;
@@ -71,9 +75,6 @@ void TextField::editByKey(int code) {
 }
 
 void TextField::moveByLines(int lines) {
-    const auto lineStart = [this](std::size_t position) {
-        return position == 0 ? 0 : text_.rfind(u'\n', position - 1) + 1;
-    };
     std::size_t start = lineStart(caret_);
     const std::size_t column = caret_ - start;
     for (; lines < 0 && start > 0; ++lines) start = lineStart(start - 1);
@@ -82,20 +83,39 @@ void TextField::moveByLines(int lines) {
         if (next == Text::npos) break;
         start = next + 1;
     }
-    setCaret(std::min(start + column, text_.find_first_of(u"\r\n", start)));
+    setCaret(std::min(start + column, lineEnd(start)));
+}
+
+std::size_t TextField::lineStart(std::size_t position) const {
+    return position == 0 ? 0 : text_.rfind(u'\n', position - 1) + 1;
+}
+
+std::size_t TextField::lineEnd(std::size_t position) const {
+    return std::min(text_.find_first_of(u"\r\n", position), text_.size());
+}
+
+std::size_t TextField::before(std::size_t position) const {
+    const bool lineEnds = TextView(text_).substr(0, position).ends_with(u"\r\n");
+    return position - std::min<std::size_t>(position, lineEnds ? 2 : 1);
+}
+
+std::size_t TextField::behind(std::size_t position) const {
+    const bool lineEnds = TextView(text_).substr(position).starts_with(u"\r\n");
+    return std::min<std::size_t>(position + (lineEnds ? 2 : 1), text_.size());
 }
 
 void TextField::typeCharacter(char16_t character) {
     if (locked) return;
     if (character == keyCode::back) {
-        if (selection_ > 0) return replace(caret_, selection_, u"");
-        if (caret_ > 0) replace(caret_ - 1, 1, u"");
-        return;
+        const std::size_t start = selection_ > 0 ? caret_ : before(caret_);
+        return replace(start, caret_ + selection_ - start, u"");
     }
-    if (character < u' ' || character == 0x7F) return;
-    const bool full = maxLength > 0 && text_.size() - selection_ >= maxLength;
+    const bool breaksLine = multiLine && character == keyCode::enter;
+    if (!breaksLine && (character < u' ' || character == 0x7F)) return;
+    const TextView typed = breaksLine ? TextView(u"\r\n") : TextView(&character, 1);
+    const bool full = maxLength > 0 && text_.size() - selection_ + typed.size() > maxLength;
     if (full && !(blankIgnoresLimit && character == u' ')) return;
-    replace(caret_, selection_, TextView(&character, 1));
+    replace(caret_, selection_, typed);
 }
 
 void TextField::replace(std::size_t start, std::size_t length, TextView by) {

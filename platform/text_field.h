@@ -61,12 +61,13 @@ class TextField : public Control {
     void setCaret(std::size_t position) { select(position, 0); }
     void caretToEnd() { setCaret(text_.size()); }
 
-    // The field's own handling of an editing key: arrows, Home, End, Delete. Other codes do nothing.
+    // The field's own handling of an editing key: arrows, Home, End, Delete. A line end, CR LF, counts as one
+    // character; of several lines Home and End go to those of the line. Other codes do nothing.
     void editByKey(int code);
 
     // The field's own handling of a character that the key press left: 8 is a Backspace, printable ones enter
-    // at the caret in place of the selection unless the field is locked or full, all others do nothing. A
-    // change runs onChange.
+    // at the caret in place of the selection unless the field is locked or full, and so does 13 as a line end
+    // where there are several lines; all others do nothing. A change runs onChange.
     void typeCharacter(char16_t character);
 
     bool multiLine = false;
@@ -82,6 +83,10 @@ class TextField : public Control {
     friend class TextFollower;
 
     void moveByLines(int lines);
+    std::size_t lineStart(std::size_t position) const;
+    std::size_t lineEnd(std::size_t position) const;
+    std::size_t before(std::size_t position) const;
+    std::size_t behind(std::size_t position) const;
     void replace(std::size_t start, std::size_t length, TextView by);
     void changed(std::size_t unchangedPrefix);
 

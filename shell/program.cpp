@@ -22,6 +22,7 @@ Program::Program(Machine& machine)
       undo_(pultform.state, record_, machine, [this] { showNothingToUndo(); }),
       modes_(pultform, machine.system),
       life_(pultform, keys, undo_, record_, modes_, machine),
+      page_(pultform.state, pultform.page, pultform.stripes, pultform, machine.boxes, alwaysOnTopFile()),
       commands_{pultform.state, pultform, machine.boxes, {}} {
     wireCalls();
     wireCommands();
@@ -32,6 +33,7 @@ Program::Program(Machine& machine)
     wireSounds();
     wireWindow();
     cells_.wire();
+    page_.wire();
 }
 
 void Program::beginFresh() {
@@ -52,6 +54,13 @@ void Program::showNothingToUndo() {
 }
 
 namespace {
+
+// The print copy takes a text as it stands, with one Enter for each line end.
+Text keysOfPastedLines(TextView pasted) {
+    Text keys(pasted);
+    std::erase(keys, u'\r');
+    return keys;
+}
 
 // The tape has the focus only while it is paged; any other key and the mouse give it back.
 void wireTapePaging(CalculatorState& s) {
@@ -129,6 +138,21 @@ void Program::store(const std::string& file, float value) {
     storing(file, [&] { writeSingle(machine_.files, file, value); });
 }
 
+AlwaysOnTopFile Program::alwaysOnTopFile() {
+    return {.write =
+                [this](bool alwaysOnTop) {
+                    storing("visible.zfr", [&] { writeAlwaysOnTop(machine_.files, alwaysOnTop); });
+                },
+            .read =
+                [this] {
+                    try {
+                        return readAlwaysOnTop(machine_.files);
+                    } catch (const FileFailure&) {
+                        return false;
+                    }
+                }};
+}
+
 // A setting that cannot be written holds for the run, and a box names the file.
 void Program::storing(const std::string& file, const std::function<void()>& write) {
     try {
@@ -159,7 +183,10 @@ void Program::wireEntry() {
 
 void Program::wireFields() {
     CalculatorState& s = pultform.state;
-    pultform.onPaste = [&s](TextView pasted) { return keysOfPastedText(pasted, s.separators()); };
+    pultform.onPaste = [this, &s](TextView pasted) {
+        return pultform.focus() == &s.superdruck ? keysOfPastedLines(pasted)
+                                                 : keysOfPastedText(pasted, s.separators());
+    };
     s.anzeige.onChange = [this, &s] {
         playTapeSound();
         undo_.anzeigeChanged();

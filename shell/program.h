@@ -3,6 +3,7 @@
 
 #include "memory/command_keys.h"
 #include "memory/memory_panel.h"
+#include "memory/tape_page.h"
 #include "memory/undo.h"
 #include "platform/key_road.h"
 #include "platform/machine.h"
@@ -38,6 +39,7 @@ class Program {
     void stepWindowMode();
     void publishSubtotal();
     void showNothingToUndo();
+    AlwaysOnTopFile alwaysOnTopFile();
     void store(const std::string& file, float value);
     void storing(const std::string& file, const std::function<void()>& write);
     void stepTextColours(int scheme);
@@ -49,6 +51,7 @@ class Program {
     Undo undo_;
     WindowModes modes_;
     LifeCycle life_;
+    TapePage page_;
     CommandDesk commands_;
 };
 

@@ -1,5 +1,7 @@
 #include "shell/pultform.h"
 
+#include <string>
+
 namespace zifferon {
 
 Pultform::Pultform() {
@@ -33,10 +35,21 @@ Pultform::Pultform() {
     add(s.clipcheck, u"clipcheck");
     add(s.Checksound, u"Checksound");
     add(s.Checkob, u"Checkob");
+    add(page.edit, u"edit");
     add(s.Texterror, u"Texterror");
+    add(page.blende, u"blende");
+    add(page.blendevorschau, u"blendevorschau");
+    add(page.insertmode, u"insertmode");
+    add(page.Check33, u"Check33");
     add(s.superdruck, u"superdruck");
+    add(page.Frame7, u"Frame7");
+    add(page.leave, u"leave");
+    for (std::size_t i = 0; i < stripes.raster.size(); ++i) {
+        add(stripes.raster[i], fromUtf8("raster" + std::to_string(i)));
+    }
     add(Timer2, u"Timer2");
     add(minitimer, u"minitimer");
+    add(stripes.timerraster, u"timerraster");
     add(s.errortimer, u"errortimer");
     add(s.messtimer, u"messtimer");
     layOutPultform(*this);

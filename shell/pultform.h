@@ -4,6 +4,8 @@
 #include <array>
 
 #include "core/calculator_state.h"
+#include "memory/stripes.h"
+#include "memory/tape_page.h"
 #include "platform/window.h"
 
 namespace zifferon {
@@ -28,6 +30,8 @@ class Pultform : public Window {
     Control Command3{ControlKind::button}, cmdexit{ControlKind::button};
     Timer Timer2, minitimer;
     Control nixspez{ControlKind::button};  // the blind button beside spezrnd
+    TapePageControls page;
+    Stripes stripes;
 };
 
 // Gives every control of the window its place, caption, font and colours. A row of the table whose control

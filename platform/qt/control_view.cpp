@@ -52,7 +52,12 @@ void ControlView::refresh() {
         widget_.setAccessibleName(toQString(control_.accessibleName));
     }
     refreshContent();
-    if (differs(enabled_, control_.enabled)) widget_.setEnabled(control_.enabled);
+    if (differs(enabled_, control_.enabled)) {
+        widget_.setEnabled(control_.enabled);
+        // A label that does nothing itself leaves the mouse to what it lies on.
+        widget_.setAttribute(Qt::WA_TransparentForMouseEvents,
+                             control_.kind == ControlKind::label && !control_.enabled);
+    }
     if (differs(visible_, control_.shown())) widget_.setVisible(*visible_);
 }
 

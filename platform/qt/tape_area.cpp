@@ -46,7 +46,8 @@ TapeArea::TapeArea(TextField& field, QWidget* parent)
 void TapeArea::follow() {
     const std::size_t unchanged = follower_.takeUnchangedPrefix();
     const bool changed = unchanged != length_ || field_.text().size() != length_;
-    const bool caretMoved = hasFocus() && caret_ != field_.caret();
+    const bool caretMoved =
+        hasFocus() && (caret_ != field_.caret() || selection_ != field_.selectionLength());
     if (!changed && !caretMoved) return;
     if (changed) {
         const std::size_t before = std::exchange(length_, field_.text().size());
@@ -55,6 +56,7 @@ void TapeArea::follow() {
         if (unchanged == before) announceTapeText(*this, before, TextView(field_.text()).substr(before));
     }
     caret_ = field_.caret();
+    selection_ = field_.selectionLength();
     showPosition(hasFocus() ? caret_ : length_);
     viewport()->update();
 }
@@ -89,7 +91,10 @@ void TapeArea::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) fitScrollBar();
 }
 
-void TapeArea::focusInEvent(QFocusEvent*) { viewport()->update(); }
+void TapeArea::focusInEvent(QFocusEvent*) {
+    showPosition(field_.caret());
+    viewport()->update();
+}
 
 void TapeArea::focusOutEvent(QFocusEvent*) { viewport()->update(); }
 
@@ -101,7 +106,9 @@ void TapeArea::paintEvent(QPaintEvent* event) {
     for (std::size_t i = first; i < starts_.size(); ++i) {
         const int top = topOf(i);
         if (top > event->rect().bottom()) break;
-        if (top + lineHeight() > event->rect().top()) paintLine(painter, i, top);
+        if (top + lineHeight() <= event->rect().top()) continue;
+        paintLine(painter, i, top);
+        if (hasFocus()) paintSelection(painter, i, top);
     }
     if (!hasFocus()) return;
     const QRect caret = rectAt(caret_);
@@ -119,6 +126,21 @@ void TapeArea::paintLine(QPainter& painter, std::size_t index, int top) const {
     painter.translate(columnEdge(), baseline);
     painter.scale(double(columnEdge() - margin) / (columnEdge() - left), 1);
     painter.drawText(left - columnEdge(), 0, borrowed(text));
+    painter.restore();
+}
+
+// What is selected of a line stands in exchanged colours, drawn over the line itself.
+void TapeArea::paintSelection(QPainter& painter, std::size_t index, int top) const {
+    const std::size_t start = std::max(starts_[index], caret_);
+    const std::size_t end = std::min(starts_[index] + line(index).size(), caret_ + selection_);
+    if (start >= end) return;
+    const int left = rectAt(start).left();
+    const QRect selected(left, top, rectAt(end - 1).right() + 1 - left, lineHeight());
+    painter.save();
+    painter.setClipRect(selected);
+    painter.fillRect(selected, palette().color(QPalette::Highlight));
+    painter.setPen(palette().color(QPalette::HighlightedText));
+    paintLine(painter, index, top);
     painter.restore();
 }
 

@@ -38,6 +38,7 @@ class TapeArea : public QAbstractScrollArea {
     void findLines(std::size_t unchanged);
     void fitScrollBar();
     void paintLine(QPainter& painter, std::size_t line, int top) const;
+    void paintSelection(QPainter& painter, std::size_t line, int top) const;
 
     TextView line(std::size_t index) const;
     std::size_t lineOf(std::size_t position) const;
@@ -51,7 +52,8 @@ class TapeArea : public QAbstractScrollArea {
     TextFollower follower_;
     std::vector<std::size_t> starts_{0};
     std::size_t length_ = 0;
-    std::size_t caret_ = 0;  // the caret that was last followed
+    std::size_t caret_ = 0;  // the caret and selection that were last followed
+    std::size_t selection_ = 0;
 };
 
 }  // namespace zifferon

@@ -1,8 +1,7 @@
 // The real start in the current program folder, without the pauses of the loading window.
 
-#include <QIcon>
-
 #include "bench/first_window.h"
+#include "platform/qt/application.h"
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_machine.h"
 #include "shell/program.h"
@@ -19,9 +18,7 @@ class HastyProcess : public QtProcess {
 }  // namespace
 
 int main(int argc, char** argv) {
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication application(argc, argv);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/zifferonpro.svg")));
+    const Application application(argc, argv);
     FirstWindow first(argv[1], QStringLiteral("Zifferon PRO 5.0"));
     QtMachine qt;
     HastyProcess process;
@@ -32,5 +29,5 @@ int main(int argc, char** argv) {
     FormView view(program.pultform, program.keys);
     qt.desktop.attachTo(view);
     program.start();
-    return QApplication::exec();
+    return Application::exec();
 }

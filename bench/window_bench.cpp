@@ -4,7 +4,6 @@
 #include <benchmark/benchmark.h>
 #include <xcb/xcb.h>
 
-#include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -13,6 +12,7 @@
 #include <string>
 #include <thread>
 
+#include "platform/qt/application.h"
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_machine.h"
 #include "shell/program.h"
@@ -132,8 +132,7 @@ BENCHMARK(processorTimeOfAKey)
 }  // namespace
 
 int main(int argc, char** argv) {
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication application(argc, argv);
+    const Application application(argc, argv);
     const QTemporaryDir folder;
     QDir::setCurrent(folder.path());
     benchmark::Initialize(&argc, argv);

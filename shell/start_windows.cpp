@@ -64,8 +64,7 @@ Form1::Form1(bool english) : english_(english) {
     add(label, u"label");
     add(load, u"load");
     placeLabel(label, {300, 150, 4500, 300},
-               english ? u"    Loading Zifferon PRO 5.0..." : u"Zifferon PRO 5.0 wird geladen...", 10.5,
-               true);
+               english ? u"    Loading Zifferon PRO 5.0..." : u"Zifferon PRO 5.0 wird geladen...", 12, true);
     for (int i = 0; i < cellCount; ++i) {
         Control& cell = cells[static_cast<std::size_t>(i)];
         add(cell, u"cell");

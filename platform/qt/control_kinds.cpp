@@ -83,21 +83,29 @@ class Panel : public QWidget {
         QPainter painter(this);
         const QRect text = painter.fontMetrics().boundingRect(caption_);
         const int lineHeight = painter.fontMetrics().height();
-        const int top = lineHeight / 2;
-        const QRectF line = QRectF(rect()).adjusted(0.5, top + 0.5, -0.5, -0.5);
+        const QRect line = rect().adjusted(0, lineHeight / 2, -1, -2);
         const QColor ground = palette().color(QPalette::Window);
-        const auto outline = [&](const QColor& colour, const QRectF& where) {
-            painter.setPen(colour);
-            painter.drawRoundedRect(where, 3, 3);
-        };
-        painter.setRenderHint(QPainter::Antialiasing);
-        outline(ground.lighter(118), line.translated(0, 1).adjusted(0, 0, 0, -1));
-        outline(ground.darker(135), line.adjusted(0, 0, 0, -1));
+        paintOutline(painter, line.translated(0, 1), ground.lighter(118));
+        paintOutline(painter, line, ground.darker(135));
         if (caption_.isEmpty()) return;
         const QRect gap(captionLeft - captionGap, 0, text.width() + 2 * captionGap, lineHeight);
         painter.fillRect(gap, ground);
         painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(gap, Qt::AlignCenter, caption_);
+    }
+
+    // Plain lines that leave the corners out: curves would be a twentieth of the whole start.
+    static void paintOutline(QPainter& painter, const QRect& where, const QColor& colour) {
+        constexpr int corner = 2;
+        const QRect inner = where.adjusted(corner, corner, -corner, -corner);
+        painter.setPen(colour);
+        painter.drawLine(inner.left(), where.top(), inner.right(), where.top());
+        painter.drawLine(inner.left(), where.bottom(), inner.right(), where.bottom());
+        painter.drawLine(where.left(), inner.top(), where.left(), inner.bottom());
+        painter.drawLine(where.right(), inner.top(), where.right(), inner.bottom());
+        const QPoint corners[] = {where.topLeft() + QPoint(1, 1), where.topRight() + QPoint(-1, 1),
+                                  where.bottomLeft() + QPoint(1, -1), where.bottomRight() + QPoint(-1, -1)};
+        painter.drawPoints(corners, 4);
     }
 
     QString caption_;
@@ -117,24 +125,29 @@ class FrameView : public ControlView {
     std::optional<Text> caption_;
 };
 
-// A drawing, sharp at every scale. Without one the picture is a mere place, and what lies below it is seen.
+// A drawing, sharp at every scale, and read when it is first seen. Without one the picture is a mere place,
+// and what lies below it is seen.
 class Picture : public QWidget {
   public:
     using QWidget::QWidget;
 
     void setDrawing(TextView name) {
         setAutoFillBackground(!name.empty());
-        if (!name.empty()) drawing_.load(QStringLiteral(":/pictures/%1.svg").arg(toQString(name)));
+        fileName_ = name.empty() ? QString() : QStringLiteral(":/pictures/%1.svg").arg(toQString(name));
+        drawing_.reset();
         update();
     }
 
   private:
     void paintEvent(QPaintEvent*) override {
+        if (fileName_.isEmpty()) return;
+        if (!drawing_) drawing_ = std::make_unique<QSvgRenderer>(fileName_);
         QPainter painter(this);
-        if (drawing_.isValid()) drawing_.render(&painter);
+        drawing_->render(&painter);
     }
 
-    QSvgRenderer drawing_;
+    QString fileName_;
+    std::unique_ptr<QSvgRenderer> drawing_;
 };
 
 class PictureView : public ControlView {

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <functional>
 #include <limits>
 #include <utility>
 
@@ -43,6 +44,9 @@ QPoint visiblePosition(const QRect& frame) {
             std::max(nearest.top(), std::min(frame.top(), nearest.bottom() + 1 - frame.height()))};
 }
 
+// The window in use; null: none yet, or it was hidden.
+FormView* active = nullptr;
+
 }  // namespace
 
 FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
@@ -58,16 +62,23 @@ FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
     setWindowFlag(Qt::Dialog, owner != nullptr);
     setWindowFlag(Qt::FramelessWindowHint, !window.framed);
     setMouseTracking(true);
-    for (Control* control : window.controls()) views_.push_back(makeControlView(*control, *this));
-    refresh();
+    views_.resize(window.controls().size());
 }
 
-void FormView::refresh() {
+FormView::~FormView() {
+    if (active == this) active = nullptr;
+}
+
+void FormView::prepare() {
     refreshFrame();
     refreshPlace();
     refreshOnTop();
-    for (const auto& view : views_) view->refresh();
+    refreshControls();
     refreshFocus();
+}
+
+void FormView::refresh() {
+    if (window_.visible) prepare();
     timers_.refresh();
     refreshShown();
 }
@@ -79,9 +90,15 @@ void FormView::run(const std::function<void()>& handler) {
 }
 
 void FormView::refreshAll() {
+    for (FormView* form : all()) form->refresh();
+}
+
+std::vector<FormView*> FormView::all() {
+    std::vector<FormView*> forms;
     for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* const form = dynamic_cast<FormView*>(widget)) form->refresh();
+        if (auto* const form = dynamic_cast<FormView*>(widget)) forms.push_back(form);
     }
+    return forms;
 }
 
 void FormView::press(Control& control) {
@@ -98,8 +115,15 @@ void FormView::press(Control& control) {
 bool FormView::event(QEvent* event) {
     // A box is about to open in the midst of a handler: what the handler has done so far is seen behind it.
     if (event->type() == QEvent::WindowBlocked) refresh();
-    if (event->type() == QEvent::WindowActivate) run(window_.onActivate);
+    if (event->type() == QEvent::WindowActivate) becomeActive();
+    if (event->type() == QEvent::Hide && active == this) active = nullptr;
     return QWidget::event(event);
+}
+
+// A window becomes the one in use when another of the program's windows was, or when it comes back from being
+// hidden. Neither a box nor another program in between counts.
+void FormView::becomeActive() {
+    if (std::exchange(active, this) != this) run(window_.onActivate);
 }
 
 // The user minimises and restores it too.
@@ -167,9 +191,24 @@ void FormView::refreshOnTop() {
     if (windowHandle() != nullptr) windowHandle()->setFlag(Qt::WindowStaysOnTopHint, alwaysOnTop_);
 }
 
+void FormView::refreshControls() {
+    for (std::size_t i = 0; i < views_.size(); ++i) {
+        if (!views_[i] && window_.controls()[i]->shown()) makeView(i);
+        if (views_[i]) views_[i]->refresh();
+    }
+}
+
+// The new widget goes below those of the controls that lie above its own.
+void FormView::makeView(std::size_t index) {
+    views_[index] = makeControlView(*window_.controls()[index], *this);
+    const auto above =
+        std::find_if(views_.begin() + std::ptrdiff_t(index) + 1, views_.end(), std::identity());
+    if (above != views_.end()) views_[index]->widget().stackUnder(&(*above)->widget());
+}
+
 void FormView::refreshFocus() {
     const auto view = std::find_if(views_.begin(), views_.end(),
-                                   [&](const auto& v) { return &v->control() == window_.focus(); });
+                                   [&](const auto& v) { return v && &v->control() == window_.focus(); });
     if (view != views_.end() && focusWidget() != &(*view)->widget()) {
         (*view)->widget().setFocus(Qt::OtherFocusReason);
     }

@@ -17,12 +17,20 @@ namespace zifferon {
 
 class FormView : public QWidget {
   public:
-    // Shows all controls that `window` has now; it and `keys` live as long as the view. A window with an
-    // owner stays above it.
+    // For all controls that `window` has now; it and `keys` live as long as the view. A window with an owner
+    // stays above it. Nothing is shown before the first refresh.
     FormView(Window& window, KeyRoad& keys, QWidget* owner = nullptr);
+    ~FormView() override;
 
-    // Shows what has changed in the window since the last call; without a change it costs little.
+    // Shows what has changed in the window since the last call; without a change, and of a hidden window, it
+    // costs little.
     void refresh();
+
+    // Makes ready what a hidden window will show.
+    void prepare();
+
+    // The forms of the program.
+    static std::vector<FormView*> all();
 
     // Runs a handler that is no keystroke, and shows what it did. An empty one does nothing.
     void run(const std::function<void()>& handler);
@@ -42,15 +50,18 @@ class FormView : public QWidget {
     void moveEvent(QMoveEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void becomeActive();
     void refreshFrame();
     void refreshPlace();
     void refreshOnTop();
+    void refreshControls();
+    void makeView(std::size_t index);
     void refreshFocus();
     void refreshShown();
 
     Window& window_;
     KeyRoad& keys_;
-    std::vector<std::unique_ptr<ControlView>> views_;
+    std::vector<std::unique_ptr<ControlView>> views_;  // of each control; none before it is first shown
     TimerViews timers_;
     KeyEvents keyEvents_;
 

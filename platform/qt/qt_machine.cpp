@@ -8,6 +8,7 @@
 #include <QThread>
 #include <cstdlib>
 
+#include "platform/qt/application.h"
 #include "platform/qt/control_view.h"
 #include "platform/qt/form_view.h"
 
@@ -35,6 +36,7 @@ QMessageBox::Icon iconOf(BoxIcon icon) {
 
 BoxAnswer QtBoxes::show(const Box& box) {
     QMessageBox window(QApplication::activeWindow());
+    window.setFont(boxFont());
     window.setWindowTitle(toQString(box.title));
     window.setTextFormat(Qt::PlainText);
     window.setText(toQString(box.text));

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <algorithm>
 
 #include "platform/qt/form_view.h"
 
@@ -22,11 +23,10 @@ struct QtWindows::Shown {
 namespace {
 
 FormView* viewOf(const Window& window) {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        auto* const view = dynamic_cast<FormView*>(widget);
-        if (view != nullptr && &view->window() == &window) return view;
-    }
-    return nullptr;
+    const std::vector<FormView*> forms = FormView::all();
+    const auto view =
+        std::find_if(forms.begin(), forms.end(), [&](FormView* form) { return &form->window() == &window; });
+    return view != forms.end() ? *view : nullptr;
 }
 
 }  // namespace
@@ -54,6 +54,9 @@ void QtWindows::showModal(Window& window) {
     window.visible = true;
     shown.view.refresh();
     shown.view.activateWindow();
+    QCoreApplication::processEvents();
+    // While the screen puts the window up, those that come later get ready.
+    for (FormView* form : FormView::all()) form->prepare();
     while (window.visible) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 

@@ -1,0 +1,29 @@
+// make_icon SVG SIZE FILE: draws the picture SVG, which is square, with SIZE pixels a side into FILE: its
+// rows from the top, for each pixel blue, green, red and opacity, a byte each, the colours multiplied with
+// the opacity.
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <cstdlib>
+#include <iostream>
+
+int main(int argc, char** argv) {
+    const int size = argc == 4 ? std::atoi(argv[2]) : 0;
+    QSvgRenderer drawing;
+    if (size > 0 && drawing.load(QString::fromLocal8Bit(argv[1]))) {
+        QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        drawing.render(&painter);
+        painter.end();
+        QFile file(QString::fromLocal8Bit(argv[3]));
+        const auto bytes = reinterpret_cast<const char*>(image.constBits());
+        if (file.open(QIODevice::WriteOnly) &&
+            file.write(bytes, image.sizeInBytes()) == image.sizeInBytes()) {
+            return EXIT_SUCCESS;
+        }
+    }
+    std::cerr << "make_icon: no icon was made\n";
+    return EXIT_FAILURE;
+}

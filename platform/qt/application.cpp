@@ -1,0 +1,43 @@
+#include "platform/qt/application.h"
+
+#include <QIcon>
+#include <QPixmap>
+#include <QResource>
+
+namespace zifferon {
+
+namespace {
+
+// Chosen before the application begins, which would otherwise make another style first.
+int& withOwnStyle(int& argc) {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    return argc;
+}
+
+QFont arial(int pixels) {
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(pixels);
+    return font;
+}
+
+QIcon drawnIcon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48}) {
+        const QResource pixels(QStringLiteral(":/icons/%1").arg(size));
+        icon.addPixmap(
+            QPixmap::fromImage(QImage(pixels.data(), size, size, QImage::Format_ARGB32_Premultiplied)));
+    }
+    return icon;
+}
+
+}  // namespace
+
+QFont boxFont() { return arial(13); }
+
+Application::Application(int& argc, char** argv) : QApplication(withOwnStyle(argc), argv) {
+    setQuitOnLastWindowClosed(false);
+    setFont(arial(11));  // that of most controls: each font more is seen at the start
+    setWindowIcon(drawnIcon());
+}
+
+}  // namespace zifferon

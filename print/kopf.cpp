@@ -1,0 +1,138 @@
+#include "print/kopf.h"
+
+namespace zifferon {
+
+namespace {
+
+constexpr Colour darkBlue{0, 0, 64};
+constexpr Colour paleBlue{192, 192, 255};
+constexpr Colour white{255, 255, 255};
+constexpr Colour key{214, 214, 214};
+
+// Twips. The columns are where the words of the headings over them come to stand.
+constexpr int margin = 165, rowHeight = 330, rowStep = 405;
+constexpr int tickLeft = 405, tickWidth = 300, textLeft = 1065, textWidth = 4035, sizeLeft = 5445,
+              sizeWidth = 930, switchLeft = 6750, switchWidth = 2085;
+
+Text blanks(std::size_t count) { return Text(count, u' '); }
+
+}  // namespace
+
+Kopf::Kopf() {
+    name = u"kopf";
+    caption = u"Zifferon PRO 5.0";
+    framed = false;  // a frame would have a close box
+    place = {0, 0, 9000, 8000};
+    onDismiss = [] {};
+    addCaptioned(Label1, u"Label1", {15, 15, 8970, 345}, u" Daten für Briefkopf und Fußzeile");
+    Label1.foreColour = paleBlue;
+    Label1.backColour = darkBlue;
+    Label1.font = {u"Arial", 9, true};
+    Label1.alignment = Alignment::centre;
+    addHeadLines();
+    addFooter();
+    addLooks();
+    addButtons();
+    for (const Line& line : lines) {
+        line.blank.onClick = [this, &line] { followBlankTick(line); };
+    }
+}
+
+void Kopf::addHeadLines() {
+    addCaptioned(Label2, u"Label2", {margin, 480, 6420, 240},
+                 u"Leerzeile" + blanks(39) + u"Kopfzeile(n)" + blanks(42) + u"Schriftgröße");
+    int top = 765;
+    char16_t digit = u'1';
+    for (const Line& line : lines) {
+        const Text number(1, digit), ofLists(1, digit == u'5' ? u'7' : digit);
+        addTick(line.blank, u"Check" + ofLists, {tickLeft, top, tickWidth, rowHeight},
+                number + u". Kopfzeile leer");
+        addField(line.text, u"zeile" + number, {textLeft, top, textWidth, rowHeight},
+                 number + u". Kopfzeile");
+        addSize(line.size, u"Combo" + ofLists, {sizeLeft, top, sizeWidth, rowHeight},
+                u"Schriftgröße der " + number + u". Kopfzeile");
+        top += rowStep;
+        ++digit;
+    }
+    addCaptioned(checkstamm, u"checkstamm", {switchLeft, 765, switchWidth, rowHeight}, u"&Briefkopf drucken");
+    addCaptioned(logo, u"logo", {switchLeft, 765 + rowStep, switchWidth, rowHeight}, u"Logo");
+    addCaptioned(Check5, u"Check5", {textLeft, 2835, textWidth, 300}, u"Trennstrich - &OBEN");
+}
+
+void Kopf::addFooter() {
+    addCaptioned(Check6, u"Check6", {textLeft, 3255, textWidth, 300}, u"Trennstrich - &UNTEN");
+    addCaptioned(Label3, u"Label3", {margin, 3675, 6420, 240},
+                 blanks(55) + u"Fußzeile(n)" + blanks(46) + u"Schriftgröße" + blanks(28));
+    nachtext.multiLine = true;
+    addField(nachtext, u"nachtext", {textLeft, 3960, textWidth, 1200}, u"Fußzeilen");
+    addSize(Combo6, u"Combo6", {sizeLeft, 3960, sizeWidth, rowHeight}, u"Schriftgröße der Fußzeilen");
+}
+
+void Kopf::addLooks() {
+    addCaptioned(Frame3, u"Frame3", {margin, 5310, 8670, 1905}, u"Schriftart");
+    addCaptioned(Label4, u"Label4", {6450, 5580, 2250, 240}, u" fett    kursiv");
+    addCaptioned(Label10, u"Label10", {345, 5850, 2700, rowHeight}, u"Einstellung für 1. Kopfzeile");
+    addCaptioned(Label9, u"Label9", {345, 5850 + rowStep, 2700, rowHeight},
+                 u"Einstellung für 2. - 5. Kopfzeile");
+    addCaptioned(Label8, u"Label8", {345, 5850 + 2 * rowStep, 2700, rowHeight}, u"Einstellung für Fußzeilen");
+    constexpr std::array<TextView, 3> fontNames = {u"Combo5", u"combfoart2", u"combfoart3"};
+    constexpr std::array<TextView, 3> targets = {u"1. Kopfzeile", u"2. bis 5. Kopfzeile", u"Fußzeilen"};
+    for (std::size_t i = 0; i < looks.size(); ++i) {
+        const Look& look = looks[i];
+        const int top = look.label.place.top;
+        const Text target(targets[i]), number(1, static_cast<char16_t>(u'1' + i));
+        addField(look.font, fontNames[i], {3150, top, 3000, rowHeight}, u"Schriftart: " + target);
+        addTick(look.bold, u"bold" + number, {6540, top, tickWidth, rowHeight}, target + u" fett");
+        addTick(look.italic, u"kur" + number, {7125, top, tickWidth, rowHeight}, target + u" kursiv");
+        look.label.frame = look.font.frame = look.bold.frame = look.italic.frame = &Frame3;
+    }
+    Label4.frame = &Frame3;
+}
+
+void Kopf::addButtons() {
+    addCaptioned(dakill, u"dakill", {margin, 7395, 1800, 420}, u"Daten &löschen");
+    addCaptioned(muster, u"muster", {2115, 7395, 1800, 420}, u"&Muster");
+    addCaptioned(kopfok, u"kopfok", {5010, 7395, 3825, 420}, u"Daten &übernehmen und Menü verlassen");
+    dakill.backColour = muster.backColour = kopfok.backColour = key;
+}
+
+void Kopf::addCaptioned(Control& control, TextView controlName, Place controlPlace, TextView controlCaption) {
+    add(control, controlName);
+    control.place = controlPlace;
+    control.caption = controlCaption;
+}
+
+void Kopf::addTick(CheckBox& tick, TextView controlName, Place controlPlace, TextView spoken) {
+    add(tick, controlName);
+    tick.place = controlPlace;
+    tick.accessibleName = spoken;
+}
+
+void Kopf::addField(TextField& field, TextView controlName, Place controlPlace, TextView spoken) {
+    add(field, controlName);
+    field.place = controlPlace;
+    field.accessibleName = spoken;
+    field.backColour = white;
+    field.takesFocus = true;
+}
+
+void Kopf::addSize(TextField& size, TextView controlName, Place controlPlace, TextView spoken) {
+    addField(size, controlName, controlPlace, spoken);
+    size.locked = true;  // it is chosen, not typed
+    size.setText(u"10");
+}
+
+void Kopf::followBlankTick(const Line& line) {
+    const bool blank = line.blank.ticked();
+    line.text.setText(blank ? blankLineNote() : Text());
+    line.text.enabled = !blank;
+    line.text.locked = blank;  // the focus stays in a line that is disabled under it
+    if (!blank) setFocus(line.text);
+}
+
+Text Kopf::blankLineNote() const {
+    return english ? blanks(36) + u"This line will be blank."
+                   : blanks(19) + u"Diese Zeile wird als Leerzeile ausgegeben.";
+}
+
+}  // namespace zifferon

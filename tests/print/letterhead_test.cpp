@@ -1,0 +1,149 @@
+#include "print/letterhead.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "platform/headless/faulty_files.h"
+#include "platform/posix_files.h"
+#include "storage/tagged_value.h"
+#include "tests/support/fresh_folder.h"
+
+namespace zifferon {
+namespace {
+
+// What a test stores; the rest of the record is always the same.
+struct Stored {
+    CalcValue firstTick = 0, fifthLineTick = 0, master = 1;
+    double bold1 = 1;
+    CalcValue firstSize = u"30";
+};
+
+std::string encoded(const Stored& stored) {
+    RecordWriter writer;
+    for (const char16_t* line : {u"Haus Groß", u"zwei", u"drei", u"vier", u"fünf"}) writer.tagged(Text(line));
+    writer.tagged(stored.firstSize);
+    for (const char16_t* list : {u"11", u"", u"10", u"No Such Font", u"9", u"14"}) writer.tagged(Text(list));
+    writer.tagged(stored.firstTick);
+    for (const int tick : {0, 0, 0, 1, 0}) writer.tagged(CalcValue(tick));  // Check5 is on
+    writer.tagged(stored.fifthLineTick);
+    writer.tagged(Text(u"Bank\r\nBüro"));
+    writer.tagged(stored.master);
+    writer.tagged(Text(u"Courier"));
+    writer.tagged(Text());
+    writer.write(stored.bold1);
+    for (const double tick : {0.0, 1.0, 0.0, 1.0, 0.0}) writer.write(tick);
+    writer.tagged(CalcValue(0));
+    return std::string(writer.bytes());
+}
+
+class LetterheadTest : public testing::Test {
+  protected:
+    void read(const std::string& bytes, Kopf& into) {
+        folder.put("setup.zfr", bytes);
+        readLetterhead(files, into);
+    }
+    bool isRefused(const std::string& bytes) {
+        Kopf fresh;
+        try {
+            read(bytes, fresh);
+        } catch (const RecordFailure&) {
+            return true;
+        }
+        return false;
+    }
+
+    FreshFolder folder;
+    PosixFiles files{folder.path()};
+    Kopf kopf;
+};
+
+TEST_F(LetterheadTest, hasItsDefaultsFromAnAbsentFileWhichStaysBehindEmpty) {
+    readLetterhead(files, kopf);
+    completeFonts(kopf);
+    EXPECT_TRUE(folder.has("setup.zfr"));
+    EXPECT_EQ(folder.bytes("setup.zfr"), "");
+    for (const Kopf::Line& line : kopf.lines) {
+        EXPECT_EQ(line.text.text(), u"");
+        EXPECT_EQ(line.size.text(), u"12");
+        EXPECT_TRUE(line.text.enabled);
+    }
+    for (const Kopf::Look& look : kopf.looks) EXPECT_EQ(look.font.text(), u"Arial");
+    EXPECT_EQ(kopf.Combo6.text(), u"8");
+    EXPECT_FALSE(kopf.checkstamm.ticked());
+}
+
+TEST_F(LetterheadTest, bringsEachItemToItsControl) {
+    read(encoded({}) + "a longer record's tail", kopf);
+    completeFonts(kopf);
+    EXPECT_EQ(kopf.zeile1.text(), u"Haus Groß");
+    EXPECT_EQ(kopf.zeile5.text(), u"fünf");
+    EXPECT_EQ(kopf.Combo1.text(), u"30");
+    EXPECT_EQ(kopf.Combo3.text(), u"12");
+    EXPECT_EQ(kopf.Combo5.text(), u"No Such Font");
+    EXPECT_EQ(kopf.Combo6.text(), u"9");
+    EXPECT_EQ(kopf.Combo7.text(), u"14");
+    EXPECT_EQ(kopf.nachtext.text(), u"Bank\r\nBüro");
+    EXPECT_EQ(kopf.combfoart2.text(), u"Courier");
+    EXPECT_EQ(kopf.combfoart3.text(), u"Arial");
+    Text ticked;  // in the order of the window
+    for (const Control* control : kopf.controls()) {
+        const auto* tick = dynamic_cast<const CheckBox*>(control);
+        if (tick != nullptr && tick->ticked()) ticked += tick->name + u' ';
+    }
+    EXPECT_EQ(ticked, u"checkstamm Check5 bold1 kur2 bold3 ");
+}
+
+TEST_F(LetterheadTest, putsTheNoteInABlankLineWhoseTickIsCheck7ForLineFive) {
+    read(encoded({.fifthLineTick = 1}), kopf);
+    const Text german = Text(19, u' ') + u"Diese Zeile wird als Leerzeile ausgegeben.";
+    EXPECT_EQ(kopf.zeile5.text(), german);
+    EXPECT_FALSE(kopf.zeile5.enabled);
+    EXPECT_EQ(kopf.zeile4.text(), u"vier");
+
+    kopf.visible = true;
+    kopf.english = true;
+    kopf.Check7.setTicked(false);
+    EXPECT_EQ(kopf.zeile5.text(), u"");
+    EXPECT_TRUE(kopf.zeile5.enabled);
+    EXPECT_EQ(kopf.focus(), &kopf.zeile5);
+    kopf.zeile5.typeCharacter(u'x');
+    EXPECT_EQ(kopf.zeile5.text(), u"x");
+    kopf.Check7.setTicked(true);
+    kopf.zeile5.typeCharacter(u'x');
+    EXPECT_EQ(kopf.zeile5.text(), Text(36, u' ') + u"This line will be blank.");
+}
+
+TEST_F(LetterheadTest, takesWhatCanBeAppliedAndRefusesTheRest) {
+    read(encoded({.firstTick = u"1", .master = CalcValue(), .firstSize = 24}), kopf);
+    EXPECT_TRUE(kopf.Check1.ticked());
+    EXPECT_FALSE(kopf.checkstamm.ticked());
+    EXPECT_EQ(kopf.Combo1.text(), u"24");
+    EXPECT_FALSE(isRefused(encoded({.master = 2})));
+
+    for (const CalcValue& value : {CalcValue(3), CalcValue(-1), CalcValue(70000), CalcValue(1e300),
+                                   CalcValue(u""), CalcValue(u"on"), CalcValue(Text(400, u'9'))}) {
+        EXPECT_TRUE(isRefused(encoded({.master = value}))) << describe(value);
+    }
+    for (const double value :
+         {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(), -1.0, 2.6}) {
+        EXPECT_TRUE(isRefused(encoded({.bold1 = value}))) << value;
+    }
+    EXPECT_TRUE(isRefused("\x01\x02"));
+}
+
+TEST_F(LetterheadTest, ofAnyLengthIsReadOrRefused) {
+    const std::string whole = encoded({});
+    int read = 0;
+    for (std::size_t size = 0; size <= whole.size(); ++size) read += isRefused(whole.substr(0, size)) ? 0 : 1;
+    EXPECT_EQ(read, 31);  // cut behind any of its 30 items, or before all
+}
+
+TEST_F(LetterheadTest, letsAFailureOfTheFileThrough) {
+    FaultyFiles faulty(files);
+    faulty.failOperation(1);
+    EXPECT_THROW(readLetterhead(faulty, kopf), FileFailure);
+}
+
+}  // namespace
+}  // namespace zifferon

@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QProcess>
 
+#include "platform/qt/application.h"
 #include "platform/qt/form_view.h"
 
 namespace zifferon {
@@ -25,6 +26,7 @@ void QtDesktop::makeTray() {
     };
     addEntry("Show", onTrayShow);
     addEntry("Exit", onTrayExit);
+    tray_->menu.setFont(boxFont());
     tray_->icon.setIcon(QIcon(QStringLiteral(":/pictures/zifferonpro.svg")));
     tray_->icon.setToolTip(QStringLiteral("Zifferon PRO"));
     tray_->icon.setContextMenu(&tray_->menu);
@@ -32,6 +34,20 @@ void QtDesktop::makeTray() {
                      [this](QSystemTrayIcon::ActivationReason reason) {
                          if (reason == QSystemTrayIcon::DoubleClick) runUnlessModal(onTrayDoubleClick);
                      });
+}
+
+// In a Wayland session an X server, if any, sees only the keys that are typed into its own windows.
+void QtDesktop::registerHotKey() {
+    if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        hotKey_.grab();
+    } else {
+        portalHotKey_.grab();
+    }
+}
+
+void QtDesktop::unregisterHotKey() {
+    hotKey_.release();
+    portalHotKey_.release();
 }
 
 bool QtDesktop::run(const std::function<void()>& handler) {

@@ -7,6 +7,7 @@
 
 #include "platform/desktop.h"
 #include "platform/qt/hot_key.h"
+#include "platform/qt/portal_hot_key.h"
 #include "platform/qt/session_end.h"
 
 namespace zifferon {
@@ -22,8 +23,8 @@ class QtDesktop : public Desktop {
     bool hasTray() override { return QSystemTrayIcon::isSystemTrayAvailable(); }
     void addTrayIcon() override;
     void removeTrayIcon() override;
-    void registerHotKey() override { hotKey_.grab(); }
-    void unregisterHotKey() override { hotKey_.release(); }
+    void registerHotKey() override;
+    void unregisterHotKey() override;
 
     // The guide has a page in HTML beside it, for a desktop without a viewer for compressed help.
     void openDocument(const std::string& fileName) override;
@@ -41,6 +42,7 @@ class QtDesktop : public Desktop {
     FormView* mainWindow_ = nullptr;
     std::unique_ptr<Tray> tray_;  // none before the first icon
     HotKey hotKey_{[this] { runUnlessModal(onHotKey); }};
+    PortalHotKey portalHotKey_{[this] { runUnlessModal(onHotKey); }};
     SessionEnd sessionEnd_{[this] { return run(onSessionEnd); }};
 };
 

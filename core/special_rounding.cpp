@@ -47,10 +47,16 @@ class SpecialRounding {
         s.calls.writeSnapshotFile();
     }
 
+    // An entry that is no number stays in the operand as its text.
+    void readAndRound() {
+        s.operand = s.eingabe.text();
+        roundEntryIntoOperand(s);
+    }
+
     void roundEntry() {
         if (s.eingabe.empty()) return;
         s.roundingDoneSpecial = s.rootDone = false;
-        roundEntryIntoOperand(s);
+        readAndRound();
         correct(takeLastTwoDigits());
         s.eingabe.setText(format(s.operand, s.tapeFormat, s.separators()));
         s.eingabe.caretToEnd();
@@ -62,7 +68,7 @@ class SpecialRounding {
         s.roundingDoneSpecial = true;
         if (s.rootDone) return;
         s.rootDone = true;
-        roundEntryIntoOperand(s);
+        readAndRound();
         s.undoCounter += 1;
         if (!(number() < 0 ? correctNegativeTotal() : correctTotal())) return;
         const Text rounded = format(s.operand, s.tapeFormat, s.separators());

@@ -11,6 +11,7 @@ MessageWindow::MessageWindow(CalculatorState& state, std::function<void()> resto
     name = u"message";
     framed = false;
     onActivate = [this] { activate(); };
+    onAnswer = [this](BoxAnswer) { close(); };
     onDismiss = [this] { close(); };
     add(Shape1, u"Shape1");
     add(Picture1, u"Picture1");

@@ -35,8 +35,9 @@ class Window {
     std::function<void()> onActivate;   // it has become the one in use
     std::function<Text(TextView)>
         onPaste;  // the characters to be typed for a pasted text; none: the text itself
-    std::function<void(BoxAnswer)> onAnswer;  // what a scripted answer does to it; none: onDismiss
-    std::function<void()> onDismiss;          // the user closes it by other means than its controls
+    std::function<void(BoxAnswer)>
+        onAnswer;  // what a scripted answer does to it; none: it stays until the script closes it
+    std::function<void()> onDismiss;  // the user closes it by other means than its controls
 
     // Later controls lie above earlier ones.
     void add(Control& control, TextView controlName);

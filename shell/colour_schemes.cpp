@@ -45,10 +45,10 @@ constexpr std::array<Colour, 16> backSchemes = {{
     {128, 128, 128},
 }};
 
-constexpr std::array<TextView, 19> onBackground = {
-    u"Frame1", u"Frame2",   u"Frame3",     u"Frame4",    u"Frame5", u"Frame6", u"Frame8",
-    u"Label1", u"Label2",   u"Label3",     u"Label4",    u"Label5", u"Label6", u"Label7",
-    u"blende", u"checkrnd", u"Checksound", u"clipcheck", u"Checkob"};
+constexpr TextView onBackground[] = {
+    u"Frame1", u"Frame2",  u"Frame3",     u"Frame4",   u"Frame5",     u"Frame6",    u"Frame8",
+    u"Label1", u"Label2",  u"Label3",     u"Label4",   u"Label5",     u"Label6",    u"Label7",
+    u"blende", u"Check33", u"insertmode", u"checkrnd", u"Checksound", u"clipcheck", u"Checkob"};
 
 template <class Schemes>
 auto schemeOf(const Schemes& schemes, int scheme) -> decltype(schemes.data()) {
@@ -76,13 +76,12 @@ void applyTextScheme(Pultform& window, int scheme) {
     s.eingabeForeColor = colours->entryText;  // what the release of the key puts back
 }
 
-void applyBackScheme(Pultform& window, int scheme) {
+void applyBackScheme(Pultform& window, HelpWindow& help, int scheme) {
     const Colour* const back = schemeOf(backSchemes, scheme);
     if (back == nullptr) return;
     window.backColour = *back;
-    for (const TextView name : onBackground) {
-        if (Control* const control = window.find(name)) control->backColour = *back;
-    }
+    for (const TextView name : onBackground) window.find(name)->backColour = *back;
+    help.backColour = help.hintergrund.backColour = help.Frame2.backColour = *back;
 }
 
 int nextTextScheme(int scheme) {

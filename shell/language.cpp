@@ -8,9 +8,10 @@ namespace {
 
 struct Caption {
     TextView control, german, english;
+    TextView changedToEnglish{};  // where it differs from that of the start
 };
 
-constexpr std::array captions = {
+constexpr std::array windowCaptions = {
     Caption{u"Hilfe", u"&Hilfe", u"&Help"},
     Caption{u"edit", u"&Druck/Edit", u"Print / &Edit"},
     Caption{u"Checksound", u"Sou&nd", u"Sou&nd"},
@@ -34,14 +35,58 @@ constexpr std::array captions = {
     Caption{u"leave", u"&Zurück", u"&Cancel"},
     Caption{u"Frame3", u"Optionen", u"Options"}};
 
+constexpr std::array letterheadCaptions = {
+    Caption{u"Label1", u"Daten für Briefkopf und Fußzeile", u"Data for letterhead"},
+    Caption{u"Label4", u" fett    kursiv", u" bold    italic"},
+    Caption{u"Frame3", u"Schriftart", u"Font type"},
+    Caption{u"Label10", u"Einstellung für 1. Kopfzeile", u"Settings for first headline"},
+    Caption{u"Label9", u"Einstellung für 2. - 5. Kopfzeile", u"Settings 2nd - 5th headline"},
+    Caption{u"Label8", u"Einstellung für Fußzeilen", u"Settings for footer"},
+    Caption{u"dakill", u"Daten &löschen", u"&Delete data"},
+    Caption{u"muster", u"&Muster", u"&Sample"},
+    Caption{u"kopfok", u"Daten &übernehmen und Menü verlassen", u"Save data and &exit"},
+    Caption{u"Check5", u"Trennstrich - &OBEN", u"Horizontal line (&top)", u"&Dividing line (top)"},
+    Caption{u"Check6", u"&Trennstrich - &UNTEN", u"Horizontal line (&bottom)", u"&Dividing line (bottom)"},
+    Caption{u"checkstamm", u"&Briefkopf drucken", u"&Print letterhead"}};
+
+Text blanks(std::size_t count) { return Text(count, u' '); }
+
+// The headings of the letterhead's columns stand over them by their blanks.
+void setHeadings(Kopf& kopf, bool english) {
+    kopf.Label2.caption = english
+                              ? u"Blank line" + blanks(42) + u"Headline" + blanks(47) + u"Font size"
+                              : u"Leerzeile" + blanks(39) + u"Kopfzeile(n)" + blanks(42) + u"Schriftgröße";
+    kopf.Label3.caption = english ? blanks(59) + u"Footer" + blanks(53) + u"Font size"
+                                  : blanks(55) + u"Fußzeile(n)" + blanks(46) + u"Schriftgröße" + blanks(28);
+}
+
+template <class Captions, class Choose>
+void setCaptions(Window& window, const Captions& captions, Choose choose) {
+    for (const Caption& caption : captions) window.find(caption.control)->caption = choose(caption);
+}
+
+TextView atStart(const Caption& caption) { return caption.english; }
+
+TextView changedToEnglish(const Caption& caption) {
+    return caption.changedToEnglish.empty() ? caption.english : caption.changedToEnglish;
+}
+
+TextView changedToGerman(const Caption& caption) { return caption.german; }
+
 }  // namespace
 
-void applyLanguage(Pultform& window, bool english) {
-    for (const Caption& caption : captions) {
-        if (Control* const control = window.find(caption.control)) {
-            control->caption = english ? caption.english : caption.german;
-        }
-    }
+void setEnglishCaptions(Pultform& window, Kopf& kopf) {
+    setCaptions(window, windowCaptions, atStart);
+    setCaptions(kopf, letterheadCaptions, atStart);
+    setHeadings(kopf, true);
+}
+
+void changeCaptions(Pultform& window, Kopf& kopf, bool english) {
+    const auto choose = english ? changedToEnglish : changedToGerman;
+    setCaptions(window, windowCaptions, choose);
+    setCaptions(kopf, letterheadCaptions, choose);
+    setHeadings(kopf, english);
+    kopf.english = english;
 }
 
 }  // namespace zifferon

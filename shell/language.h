@@ -1,11 +1,16 @@
-// The captions of the main window in both languages. The designed ones are German.
+// The captions of the main window and of the letterhead window in both languages. The designed ones are
+// German.
 #pragma once
 
+#include "print/kopf.h"
 #include "shell/pultform.h"
 
 namespace zifferon {
 
-// Sets every caption that has two forms; access keys change with them.
-void applyLanguage(Pultform& window, bool english);
+// The captions that an English start sets; a German one keeps the designed ones.
+void setEnglishCaptions(Pultform& window, Kopf& kopf);
+
+// Those that a change of the language sets; a few differ from those of a start. Access keys change with them.
+void changeCaptions(Pultform& window, Kopf& kopf, bool english);
 
 }  // namespace zifferon

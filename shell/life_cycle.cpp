@@ -1,221 +1,31 @@
 #include "shell/life_cycle.h"
 
-#include <algorithm>
-#include <array>
+#include <utility>
 
 #include "core/number_format.h"
-#include "core/rounding.h"
 #include "shell/colour_schemes.h"
 #include "shell/language.h"
-#include "shell/locale.h"
+#include "shell/settings_files.h"
+#include "shell/start_up.h"
+#include "shell/write_protection.h"
 
 namespace zifferon {
 
-namespace {
-
-constexpr TextView programTitle = u"Zifferon PRO 5.0";
-
-// The pauses of the loading window, in milliseconds.
-constexpr int beforeCells = 200, behindCell = 30, behindCells = 1000;
-
-constexpr std::array requiredFiles = {"font.zfr",
-                                      "rattle1.wav",
-                                      "rattle2.wav",
-                                      "start.wav",
-                                      "switch.wav",
-                                      "switch2.wav",
-                                      "temp.dat",
-                                      "trash.wav",
-                                      "undo.wav",
-                                      "zifferonpro-help_de.chm",
-                                      "zifferonpro-help_en.chm",
-                                      "quicksave.zfr"};
-
-constexpr TextView missingComponents =
-    u"ERROR 001:\r\n\r\n"
-    u"Es fehlen wichtige Zifferon PRO-Komponenten. Bitte starten Sie das  \r\n"
-    u"Programm direkt aus dem Zifferon PRO-Ordner heraus bzw. mittels \r\n"
-    u"Verknüpfung oder installieren Sie es neu. Die original Installationsdatei   \r\n"
-    u"können Sie auf der Website www.zifferon-pro.example downloaden.\r\n\r\n"
-    u"Some important Zifferon PRO components are missing. Please run   \r\n"
-    u"the program from the Zifferon PRO folder, use an icon link to start  \r\n"
-    u"it, or reinstall it. Just download the original installation file from  \r\n"
-    u"www.zifferon-pro.example.\r\n";
-
-constexpr TextView writeProtectedGerman =
-    u"Zifferon PRO befindet sich auf einem schreibgeschützten Datenträger! \r\n"
-    u"Heben Sie den Schreibschutz auf bzw. installieren Sie das Programm  \r\n"
-    u"auf einem anderen Medium.   ";
-constexpr TextView writeProtectedEnglish =
-    u"Zifferon PRO is located on a write-protected media! Remove the \r\n"
-    u"write-protection or run it from another media!   ";
-
-constexpr TextView readyGerman =
-    u"Zifferon PRO wurde erfolgreich entpackt. Das Programm muss nicht   \r\n"
-    u"gesondert installiert werden und ist sofort einsatzbereit. Sie können   \r\n"
-    u"den Programmordner beliebig verschieben oder umbenennen. Falls   \r\n"
-    u"Sie Zifferon PRO von Ihrem Computer entfernen möchten, löschen   \r\n"
-    u"Sie einfach den Zifferon PRO-Ordner.   ";
-constexpr TextView readyEnglish =
-    u"Zifferon PRO has been unzipped and is ready to use. There is no  \r\n"
-    u"need to install the software separately. You may rename or move  \r\n"
-    u"the program folder at any time. If you want to delete Zifferon PRO  \r\n"
-    u"from your computer, just erase the Zifferon PRO folder.   ";
-
-}  // namespace
-
-LifeCycle::LifeCycle(Pultform& window, KeyRoad& keys, Undo& undo, CalculationRecord& record,
+LifeCycle::LifeCycle(Pultform& window, Kopf& kopf, HelpWindow& help, KeyRoad& keys, Undo& undo,
                      WindowModes& modes, Machine& machine)
     : window_(window),
+      kopf_(kopf),
+      help_(help),
       keys_(keys),
       undo_(undo),
-      record_(record),
       modes_(modes),
       machine_(machine),
       s(window.state) {}
 
-void LifeCycle::start() {
-    checkComponents();
-    probeWriting();
-    openUndoSwitch();
-    s.suppressClipboard = true;
-    readLocale();
-    if (setting(settingsFile::firstRunDone) == 0) firstRun();
-    s.languageEnglish = english();
-    if (s.localeUnknown) {
-        try {
-            settleSeparator(s, machine_.files, machine_.boxes);
-        } catch (const FileFailure&) {
-            // The answer holds for this run.
-        }
-    }
-    readFrame();
-    showLoadingWindow();
-    restoreState();
-    if (s.zwischen.empty()) s.zwischen.setText(u"0");
+void LifeCycle::start(CalculationRecord& record) {
+    typedAhead_ = StartUp(window_, kopf_, record, modes_, machine_).run();
     machine_.desktop.registerHotKey();
     show();
-}
-
-void LifeCycle::checkComponents() {
-    const bool complete = std::all_of(requiredFiles.begin(), requiredFiles.end(),
-                                      [&](const char* name) { return machine_.files.FileExists(name); });
-    if (complete) return;
-    machine_.boxes.show(
-        {.icon = BoxIcon::critical, .title = Text(programTitle), .text = Text(missingComponents)});
-    machine_.process.end();
-}
-
-void LifeCycle::probeWriting() {
-    bool inEnglish = false;
-    try {
-        inEnglish = readSingle(machine_.files, settingsFile::language) == 1;
-        writeSingle(machine_.files, settingsFile::writeProbe, 1);
-    } catch (const FileFailure&) {
-        stopWriteProtected(inEnglish);
-    }
-}
-
-void LifeCycle::stopWriteProtected(bool inEnglish) {
-    machine_.boxes.show({.icon = BoxIcon::critical,
-                         .title = Text(programTitle),
-                         .text = Text(inEnglish ? writeProtectedEnglish : writeProtectedGerman),
-                         .english = inEnglish});
-    machine_.process.end();
-}
-
-void LifeCycle::openUndoSwitch() {
-    try {
-        machine_.files.read("temp.dat");
-        s.undoActive = true;
-    } catch (const FileFailure&) {
-        s.undoActive = false;
-    }
-}
-
-void LifeCycle::readLocale() {
-    const DecimalSeparator separator = separatorOfLocale(machine_.system.GetDecStyle());
-    s.decimalPointStyle = separator == DecimalSeparator::point ? 1 : 0;
-    s.localeUnknown = separator == DecimalSeparator::unknown;
-}
-
-void LifeCycle::firstRun() {
-    Form3 form3;
-    machine_.windows.showModal(form3);
-    if (form3.choice() == Form3::Choice::none) machine_.process.end();  // the next start asks again
-    const bool inEnglish = form3.choice() == Form3::Choice::english;
-    try {
-        machine_.files.createFolder("Temp");
-        writeSingle(machine_.files, settingsFile::language, inEnglish ? 1 : 0);
-        machine_.boxes.show({.icon = BoxIcon::information,
-                             .title = inEnglish ? u"Zifferon PRO 5.0 - Setup complete"
-                                                : u"Zifferon PRO 5.0 - Setup abgeschlossen",
-                             .text = Text(inEnglish ? readyEnglish : readyGerman),
-                             .english = inEnglish});
-        s.languageEnglish = inEnglish;
-        const float stored = machine_.system.GetSystemName() == "Windows NT" ? 1.0F : 0.0F;
-        writeStoredSizes(machine_.files, {.active = stored, .width = 8205, .height = 8085});
-        writeSingle(machine_.files, settingsFile::firstRunDone, 1);
-    } catch (const FileFailure&) {
-        stopWriteProtected(inEnglish);
-    }
-}
-
-void LifeCycle::readFrame() {
-    StoredSizes sizes;
-    try {
-        sizes = readStoredSizes(machine_.files);
-    } catch (const FileFailure&) {
-        // The layouts have sizes of their own.
-    }
-    modes_.setFrame(hasModernFrame(machine_.system), sizes);
-}
-
-void LifeCycle::showLoadingWindow() {
-    Form1 form1(s.languageEnglish);
-    bool begun = false;
-    const auto focusLoad = form1.onActivate;
-    form1.onActivate = [&] {
-        focusLoad();
-        if (std::exchange(begun, true)) return;
-        machine_.process.pause(beforeCells);
-        for (int cell = 0; cell < Form1::cellCount; ++cell) {
-            form1.fillCell(cell);
-            machine_.process.pause(behindCell);
-        }
-        machine_.process.pause(behindCells);
-        form1.visible = false;
-    };
-    machine_.windows.showModal(form1);
-    typedAhead_ = form1.typedAhead();
-}
-
-void LifeCycle::restoreState() {
-    try {
-        readRecord(machine_.files, "quicksave.zfr", record_);
-        return applyRecord();
-    } catch (const FileFailure&) {
-        // Told below.
-    } catch (const RecordFailure&) {
-        // Told below.
-    }
-    machine_.boxes.show({.icon = BoxIcon::warning,
-                         .title = Text(programTitle),
-                         .text = Text(s.inLanguage(
-                             u"quicksave.zfr: Die gespeicherte Rechnung konnte nicht gelesen werden.   ",
-                             u"quicksave.zfr: The stored calculation could not be read.   ")),
-                         .english = s.languageEnglish});
-}
-
-void LifeCycle::applyRecord() {
-    applyCells(record_);
-    s.clipcheck.setTicked(record_.recordClipboard == 1);
-    applyFields(record_);
-    s.Checkob.setTicked(record_.recordAlwaysOnTop == 1);
-    s.Checksound.setTicked(record_.recordSound == 1);
-    s.checkrnd.setTicked(record_.recordRoundingTick == 1);
-    s.checkrnd.caption = record_.recordRoundingCaption.toText(s.separators());
-    applyVariables(record_);
 }
 
 void LifeCycle::show() {
@@ -234,7 +44,8 @@ void LifeCycle::show() {
 void LifeCycle::activated() {
     s.messageTicks = 0;
     if (s.checkrnd.caption.empty()) s.checkrnd.caption = u"&RND 2";
-    window_.caption = programTitle;
+    window_.caption = u"Zifferon PRO 5.0";
+    window_.stripes.hide();
     if (!std::exchange(firstActivateDone_, true)) firstActivation();
 }
 
@@ -260,19 +71,19 @@ void LifeCycle::firstActivation() {
 
 void LifeCycle::applySettings() {
     const auto scheme = [&](const std::string& file, int standard) {
-        const float stored = setting(file);
+        const float stored = readSetting(machine_.files, file);
         constexpr float largest = 16;  // what lies outside is no scheme and changes nothing
         return stored == 0 ? standard : stored >= 1 && stored <= largest ? static_cast<int>(stored) : 0;
     };
     s.textColourScheme = scheme(settingsFile::textColours, standardTextScheme);
     s.backColourScheme = scheme(settingsFile::backColours, standardBackScheme);
     applyTextScheme(window_, s.textColourScheme);
-    applyBackScheme(window_, s.backColourScheme);
-    const float mode = setting(settingsFile::format);
+    applyBackScheme(window_, help_, s.backColourScheme);
+    const float mode = readSetting(machine_.files, settingsFile::format);
     s.formatMode = mode == 0 ? 1 : mode;
     applyFormatMode(s);
-    s.languageEnglish = english();
-    if (s.languageEnglish) applyLanguage(window_, true);
+    s.languageEnglish = readsEnglish(machine_.files);
+    if (s.languageEnglish) setEnglishCaptions(window_, kopf_);
 }
 
 void LifeCycle::beginSnapshots(const StartOptions& options) {
@@ -362,21 +173,11 @@ void LifeCycle::sayGoodbye(int pause) {
     try {
         writeSingle(machine_.files, settingsFile::writeProbe, 0);
     } catch (const FileFailure&) {
-        stopWriteProtected(english());
+        stopWriteProtected(machine_, readsEnglish(machine_.files));
     }
-    goodbye_ = std::make_unique<Form2>(english());
+    goodbye_ = std::make_unique<Form2>(readsEnglish(machine_.files));
     machine_.windows.show(*goodbye_);
     machine_.process.pause(pause);
 }
-
-float LifeCycle::setting(const std::string& file) {
-    try {
-        return readSingle(machine_.files, file);
-    } catch (const FileFailure&) {
-        return 0;
-    }
-}
-
-bool LifeCycle::english() { return setting(settingsFile::language) == 1; }
 
 }  // namespace zifferon

@@ -1,13 +1,15 @@
-// From the start of the process to its end: checks, first run, the last state, the tray, the goodbye.
+// The running program: its start, what becomes of the window when it is first in use, the tray, the end.
 #pragma once
 
 #include <memory>
 #include <vector>
 
 #include "core/calculator_state.h"
+#include "help/help_window.h"
 #include "memory/undo.h"
 #include "platform/key_road.h"
 #include "platform/machine.h"
+#include "print/kopf.h"
 #include "shell/pultform.h"
 #include "shell/start_windows.h"
 #include "shell/window_modes.h"
@@ -16,12 +18,12 @@ namespace zifferon {
 
 class LifeCycle {
   public:
-    LifeCycle(Pultform& window, KeyRoad& keys, Undo& undo, CalculationRecord& record, WindowModes& modes,
+    LifeCycle(Pultform& window, Kopf& kopf, HelpWindow& help, KeyRoad& keys, Undo& undo, WindowModes& modes,
               Machine& machine);
 
     // Everything between the start of the process and the shown window, in its order. A condition that cannot
     // be mended ends the process after its box.
-    void start();
+    void start(CalculationRecord& record);
 
     // The pauses before the process ends, in milliseconds.
     static constexpr int pauseAfterKey = 1000, pauseAfterTray = 1500;
@@ -30,18 +32,7 @@ class LifeCycle {
     void quit(int pause);
 
   private:
-    // The start, step by step.
-    void checkComponents();
-    void probeWriting();
-    void openUndoSwitch();
-    void readLocale();
-    void firstRun();
-    void readFrame();
-    void showLoadingWindow();
-    void restoreState();
-    void applyRecord();
     void show();
-    void stopWriteProtected(bool english);
 
     // When the main window becomes active; the rest of it the first time only.
     void activated();
@@ -60,13 +51,11 @@ class LifeCycle {
     void unload();
     void sayGoodbye(int pause);
 
-    float setting(const std::string& file);
-    bool english();
-
     Pultform& window_;
+    Kopf& kopf_;
+    HelpWindow& help_;
     KeyRoad& keys_;
     Undo& undo_;
-    CalculationRecord& record_;
     WindowModes& modes_;
     Machine& machine_;
     CalculatorState& s;

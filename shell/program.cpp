@@ -7,6 +7,7 @@
 #include "core/special_rounding.h"
 #include "memory/message_window.h"
 #include "shell/colour_schemes.h"
+#include "shell/language.h"
 #include "shell/locale.h"
 #include "shell/pasted_text.h"
 #include "shell/send_keys.h"
@@ -21,8 +22,10 @@ Program::Program(Machine& machine)
       record_(pultform.state),
       undo_(pultform.state, record_, machine, [this] { showNothingToUndo(); }),
       modes_(pultform, machine.system),
-      life_(pultform, keys, undo_, record_, modes_, machine),
+      life_(pultform, kopf, help, keys, undo_, modes_, machine),
       page_(pultform.state, pultform.page, pultform.stripes, pultform, machine.boxes, alwaysOnTopFile()),
+      helpDesk_(pultform, kopf, help, machine,
+                [this](const std::string& file, float value) { store(file, value); }),
       commands_{pultform.state, pultform, machine.boxes, {}} {
     wireCalls();
     wireCommands();
@@ -34,10 +37,12 @@ Program::Program(Machine& machine)
     wireWindow();
     cells_.wire();
     page_.wire();
+    helpDesk_.wire();
 }
 
 void Program::beginFresh() {
     CalculatorState& s = pultform.state;
+    if (s.languageEnglish) setEnglishCaptions(pultform, kopf);
     s.startSoundDone = true;
     s.undoActive = true;
     pultform.visible = true;
@@ -131,7 +136,7 @@ void Program::stepTextColours(int scheme) {
 void Program::stepBackColours(int scheme) {
     pultform.state.backColourScheme = scheme;
     store(settingsFile::backColours, static_cast<float>(scheme));
-    applyBackScheme(pultform, scheme);
+    applyBackScheme(pultform, help, scheme);
 }
 
 void Program::store(const std::string& file, float value) {

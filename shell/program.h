@@ -1,12 +1,17 @@
 // The program without its view: the windows, the key road, and all handlers wired together in one place.
 #pragma once
 
+#include <array>
+
+#include "help/help_window.h"
 #include "memory/command_keys.h"
 #include "memory/memory_panel.h"
 #include "memory/tape_page.h"
 #include "memory/undo.h"
 #include "platform/key_road.h"
 #include "platform/machine.h"
+#include "print/kopf.h"
+#include "shell/help_desk.h"
 #include "shell/life_cycle.h"
 #include "shell/pultform.h"
 
@@ -17,10 +22,15 @@ class Program {
     explicit Program(Machine& machine);
 
     Pultform pultform;
+    Kopf kopf;
+    HelpWindow help;
     KeyRoad keys;
 
+    // The windows that live as long as the program.
+    std::array<Window*, 3> windows() { return {&pultform, &kopf, &help}; }
+
     // The real start, from the check of the components to the shown window.
-    void start() { life_.start(); }
+    void start() { life_.start(record_); }
 
     // A calculator as it stands after a start on an empty quick file, without checks and windows.
     void beginFresh();
@@ -52,6 +62,7 @@ class Program {
     WindowModes modes_;
     LifeCycle life_;
     TapePage page_;
+    HelpDesk helpDesk_;
     CommandDesk commands_;
 };
 

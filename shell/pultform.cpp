@@ -30,6 +30,7 @@ Pultform::Pultform() {
     add(s.spezrnd, u"spezrnd");
     add(nixspez, u"nixspez");
     add(Command3, u"Command3");
+    add(Hilfe, u"Hilfe");
     add(cmdexit, u"cmdexit");
     add(s.zurück, u"zurück");
     add(s.clipcheck, u"clipcheck");
@@ -44,6 +45,19 @@ Pultform::Pultform() {
     add(s.superdruck, u"superdruck");
     add(page.Frame7, u"Frame7");
     add(page.leave, u"leave");
+    add(Frame5, u"Frame5");
+    add(laden, u"laden");
+    add(killfile, u"killfile");
+    add(Frame6, u"Frame6");
+    add(Speichern, u"Speichern");
+    add(editordruck, u"editordruck");
+    add(optbtn, u"optbtn");
+    add(Frame8, u"Frame8");
+    add(Label1, u"Label1");
+    add(Label2, u"Label2");
+    add(standardprint, u"standardprint");
+    add(cmdkopf, u"cmdkopf");
+    add(back, u"back");
     for (std::size_t i = 0; i < stripes.raster.size(); ++i) {
         add(stripes.raster[i], fromUtf8("raster" + std::to_string(i)));
     }

@@ -27,11 +27,18 @@ class Pultform : public Window {
                                       Control{ControlKind::label}, Control{ControlKind::label},
                                       Control{ControlKind::label}};  // Label3 to Label7: "M1" to "M5"
     Control Picture1{ControlKind::picture};
-    Control Command3{ControlKind::button}, cmdexit{ControlKind::button};
+    Control Command3{ControlKind::button}, Hilfe{ControlKind::button}, cmdexit{ControlKind::button};
     Timer Timer2, minitimer;
     Control nixspez{ControlKind::button};  // the blind button beside spezrnd
     TapePageControls page;
     Stripes stripes;
+
+    // Of the page: stored calculations, printing, and its options. All of them wait hidden.
+    Control Frame5{ControlKind::frame}, laden{ControlKind::button}, killfile{ControlKind::button};
+    Control Frame6{ControlKind::frame}, Speichern{ControlKind::button};
+    Control editordruck{ControlKind::button}, optbtn{ControlKind::button};
+    Control Frame8{ControlKind::frame}, Label1{ControlKind::label}, Label2{ControlKind::label};
+    Control standardprint{ControlKind::button}, cmdkopf{ControlKind::button}, back{ControlKind::button};
 };
 
 // Gives every control of the window its place, caption, font and colours. A row of the table whose control

@@ -65,6 +65,16 @@ float readSingle(Files& files, const std::string& name, float whenZero) {
     return value == 0 ? whenZero : value;
 }
 
+float readSetting(Files& files, const std::string& name) {
+    try {
+        return readSingle(files, name);
+    } catch (const FileFailure&) {
+        return 0;
+    }
+}
+
+bool readsEnglish(Files& files) { return readSetting(files, settingsFile::language) == 1; }
+
 void writeSingle(Files& files, const std::string& name, float value) {
     RecordWriter writer;
     writer.write(value);

@@ -1,6 +1,6 @@
 // The settings, each a tiny file of its own in the program folder, written at the moment it changes. An
 // absent file is created by reading it; absent, empty and holding 0 are one and the same. Every function
-// throws FileFailure where the file cannot be read or written.
+// throws FileFailure where the file cannot be read or written, unless it says otherwise.
 #pragma once
 
 #include <optional>
@@ -25,6 +25,12 @@ inline const std::string printFont = "font.zfr";             // 1 to 8
 
 // The value of such a file, or `whenZero`; a file of less than 4 bytes is 0.
 float readSingle(Files& files, const std::string& name, float whenZero = 0);
+
+// The same, but a file that cannot be read is 0, too.
+float readSetting(Files& files, const std::string& name);
+
+// Whether the language on file is English.
+bool readsEnglish(Files& files);
 
 // Replaces the first 4 bytes.
 void writeSingle(Files& files, const std::string& name, float value);

@@ -116,11 +116,31 @@ void HeadlessMachine::beep() { log_ << "beep\n"; }
 
 void HeadlessMachine::play(const std::string& fileName) { log_ << "sound " << fileName << '\n'; }
 
+namespace {
+
+// A modal window is left by exceptions, too.
+class InModal {
+  public:
+    InModal(std::vector<HeadlessMachine::InUse>& modals, HeadlessMachine::InUse modal) : modals_(modals) {
+        modals_.push_back(modal);
+    }
+    InModal(const InModal&) = delete;
+    InModal& operator=(const InModal&) = delete;
+    ~InModal() { modals_.pop_back(); }
+
+  private:
+    std::vector<HeadlessMachine::InUse>& modals_;
+};
+
+}  // namespace
+
 void HeadlessMachine::showModal(Window& window) {
     show(window);
+    if (window.visible && window.onAnswer) window.onAnswer(takeAnswer(BoxAnswer::ok));
     if (window.visible) {
-        const BoxAnswer answer = takeAnswer(BoxAnswer::ok);
-        window.onAnswer ? window.onAnswer(answer) : window.onDismiss();
+        KeyRoad keys(window, [this] { beep(); });
+        const InModal inModal(modals_, {&window, &keys});
+        whileModal(window);
     }
     tellOf(window, "hidden");
 }
@@ -156,17 +176,38 @@ void HeadlessMachine::end() {
     throw ProcessEnded();
 }
 
-void HeadlessMachine::wait(std::int64_t milliseconds, const Window& window, KeyRoad& keys) {
+void HeadlessMachine::wait(std::int64_t milliseconds, Window& window, KeyRoad& keys) {
     const std::int64_t until = now_ + milliseconds;
-    followTimers(window);
-    while (Timer* const timer = nextDue(window, until)) {
-        Due& due = due_[timer];
-        now_ = due.at;
-        due.at += timer->interval();
-        keys.run(timer->onTick);
-        followTimers(window);
+    while (tickNext({&window, &keys}, until)) {
     }
     now_ = until;
+}
+
+// Of two timers that are due at the same moment the one that was started first ticks first.
+bool HeadlessMachine::before(const Due& a, const Due& b) {
+    return a.at != b.at ? a.at < b.at : a.arming < b.arming;
+}
+
+bool HeadlessMachine::tickNext(InUse mainWindow, std::int64_t until) {
+    Timer* next = nullptr;
+    KeyRoad* keys = nullptr;
+    std::vector<InUse> windows = modals_;
+    windows.push_back(mainWindow);
+    for (const InUse& inUse : windows) {
+        followTimers(*inUse.window);
+        for (Timer* timer : inUse.window->timers()) {
+            if (timer->interval() == 0 || due_[timer].at > until) continue;
+            if (next != nullptr && !before(due_[timer], due_[next])) continue;
+            next = timer;
+            keys = inUse.keys;
+        }
+    }
+    if (next == nullptr) return false;
+    Due& due = due_[next];
+    now_ = due.at;
+    due.at += next->interval();
+    keys->run(next->onTick);
+    return true;
 }
 
 // Time stands still between two waits, so a timer that was started since begins its interval now.
@@ -176,20 +217,6 @@ void HeadlessMachine::followTimers(const Window& window) {
         if (due.arming == timer->arming()) continue;
         due = {timer->arming(), now_ + timer->interval()};
     }
-}
-
-// Of two timers that are due at the same moment the one that was started first ticks first.
-bool HeadlessMachine::before(const Due& a, const Due& b) {
-    return a.at != b.at ? a.at < b.at : a.arming < b.arming;
-}
-
-Timer* HeadlessMachine::nextDue(const Window& window, std::int64_t until) {
-    Timer* next = nullptr;
-    for (Timer* timer : window.timers()) {
-        if (timer->interval() == 0 || due_[timer].at > until) continue;
-        if (next == nullptr || before(due_[timer], due_[next])) next = timer;
-    }
-    return next;
 }
 
 }  // namespace zifferon

@@ -4,9 +4,11 @@
 
 #include <deque>
 #include <exception>
+#include <functional>
 #include <ostream>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/key_road.h"
 #include "platform/machine.h"
@@ -33,8 +35,20 @@ class HeadlessMachine : public Boxes,
     // A new program on the same machine: no timer of the former one is due, and the clipboard is empty.
     void beginAnew();
 
-    // Lets virtual time pass; the timers of the window tick in order, each through the key road.
-    void wait(std::int64_t milliseconds, const Window& window, KeyRoad& keys);
+    // Lets virtual time pass; the timers of the main window and of modal ones tick in order, each through the
+    // key road of its window.
+    void wait(std::int64_t milliseconds, Window& window, KeyRoad& keys);
+
+    // A modal window that no answer closes stays open until this returns; it returns when the window is no
+    // longer visible.
+    std::function<void(const Window& window)> whileModal;
+
+    // The modal window that alone takes keys and the mouse, and its key road; null where there is none.
+    struct InUse {
+        Window* window = nullptr;
+        KeyRoad* keys = nullptr;
+    };
+    InUse modal() const { return modals_.empty() ? InUse{} : modals_.back(); }
 
     BoxAnswer show(const Box& box) override;
     void clear() override;
@@ -61,9 +75,9 @@ class HeadlessMachine : public Boxes,
 
     static bool before(const Due& a, const Due& b);
     void followTimers(const Window& window);
+    bool tickNext(InUse mainWindow, std::int64_t until);
     void tellOf(const Window& window, const char* what);
     BoxAnswer takeAnswer(BoxAnswer unasked);
-    Timer* nextDue(const Window& window, std::int64_t until);
 
     std::ostream& log_;
     std::deque<BoxAnswer> answers_;
@@ -71,6 +85,7 @@ class HeadlessMachine : public Boxes,
     bool trayIcon_ = false;
     std::int64_t now_ = 0;  // milliseconds
     std::unordered_map<const Timer*, Due> due_;
+    std::vector<InUse> modals_;  // each above those before it
 };
 
 // Text in double quotes, with the escapes \" \\ \r \n \t.

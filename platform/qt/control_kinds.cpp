@@ -1,6 +1,6 @@
 // One view for each kind of control, but for the text fields.
 #include <QCheckBox>
-#include <QFile>
+#include <QIcon>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -13,6 +13,8 @@
 namespace zifferon {
 
 namespace {
+
+QString drawingOf(TextView name) { return QStringLiteral(":/pictures/%1.svg").arg(toQString(name)); }
 
 class LabelView : public ControlView {
   public:
@@ -43,6 +45,9 @@ class ButtonView : public ControlView {
 
   protected:
     void refreshContent() override {
+        if (differs(picture_, control().picture) && !picture_->empty()) {
+            button_.setIcon(QIcon(drawingOf(*picture_)));
+        }
         if (!differs(caption_, control().caption)) return;
         button_.setText(toQString(control().caption));
         button_.setShortcut({});
@@ -50,7 +55,7 @@ class ButtonView : public ControlView {
 
   private:
     QAbstractButton& button_;
-    std::optional<Text> caption_;
+    std::optional<Text> picture_, caption_;
 };
 
 class CheckBoxView : public ButtonView {
@@ -133,7 +138,7 @@ class Picture : public QWidget {
 
     void setDrawing(TextView name) {
         setAutoFillBackground(!name.empty());
-        fileName_ = name.empty() ? QString() : QStringLiteral(":/pictures/%1.svg").arg(toQString(name));
+        fileName_ = name.empty() ? QString() : drawingOf(name);
         drawing_.reset();
         update();
     }

@@ -170,7 +170,8 @@ void FormView::refreshPlace() {
     if (place == place_) return;
     if (place.width != place_.width || place.height != place_.height) {
         const int frameTwips[] = {window_.framed ? frameWidth : 0, window_.framed ? frameHeight : 0};
-        setFixedSize(pixels({0, 0, place.width - frameTwips[0], place.height - frameTwips[1]}).size());
+        const QSize inner = pixels({0, 0, place.width - frameTwips[0], place.height - frameTwips[1]}).size();
+        setFixedSize(inner.expandedTo(QSize(1, 1)));
     }
     if (place.left != place_.left || place.top != place_.top) {
         const QRect wanted = pixels(place);

@@ -11,9 +11,15 @@ namespace zifferon {
 struct QtWindows::Shown {
     Shown(Window& window, Sound& sound, QWidget* owner)
         : keys(window, [&sound] { sound.beep(); }), view(window, keys, owner) {
+        view.move(startOf(window.place, owner));
+    }
+
+    // Where the program wants it; without a wish in the middle of its owner or of the screen.
+    static QPoint startOf(const Place& place, const QWidget* owner) {
+        if (place.left != 0 || place.top != 0) return pixels(place).topLeft();
         const QRect around =
             owner != nullptr ? owner->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry();
-        view.move(around.center() - view.rect().center());
+        return around.center() - pixels(place).center();
     }
 
     KeyRoad keys;

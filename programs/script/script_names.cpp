@@ -219,17 +219,36 @@ constexpr std::string_view dumped[] = {"eingabe",
 
 std::span<const std::string_view> dumpNames() { return dumped; }
 
-Control* controlOf(std::string_view name, const Program& program) {
-    return program.pultform.find(fromUtf8(name));
+Window* windowCalled(std::string_view name, Program& program) {
+    for (Window* window : program.windows()) {
+        if (toUtf8(window->name) == name) return window;
+    }
+    return nullptr;
 }
 
-std::optional<std::string> valueOf(std::string_view name, const Program& program,
-                                   const HeadlessMachine& machine) {
+Window* windowOf(const Control& control, Program& program) {
+    for (Window* window : program.windows()) {
+        const auto& controls = window->controls();
+        if (std::find(controls.begin(), controls.end(), &control) != controls.end()) return window;
+    }
+    return nullptr;
+}
+
+Control* controlOf(std::string_view name, Program& program) {
+    if (Control* const control = program.pultform.find(fromUtf8(name))) return control;
+    const std::size_t point = name.find('.');
+    if (point == std::string_view::npos) return nullptr;
+    const Window* const window = windowCalled(name.substr(0, point), program);
+    return window != nullptr ? window->find(fromUtf8(name.substr(point + 1))) : nullptr;
+}
+
+std::optional<std::string> valueOf(std::string_view name, Program& program, const HeadlessMachine& machine) {
     const auto found = variables().find(name);
     if (found != variables().end()) return found->second(program.pultform.state);
     if (name == "clipboard") return quoted(machine.clipboardText());
     if (name == "focus") {
-        const Control* focus = program.pultform.focus();
+        const Window* const modal = machine.modal().window;
+        const Control* focus = (modal != nullptr ? *modal : program.pultform).focus();
         return focus != nullptr ? toUtf8(focus->name) : "";
     }
     if (const Control* control = controlOf(name, program)) return mainValueOf(*control);
@@ -238,7 +257,7 @@ std::optional<std::string> valueOf(std::string_view name, const Program& program
     const std::string_view owner = name.substr(0, point);
     const std::string_view property = name.substr(point + 1);
     if (const Control* control = controlOf(owner, program)) return propertyOf(*control, property);
-    if (owner == toUtf8(program.pultform.name)) return propertyOf(program.pultform, property);
+    if (const Window* window = windowCalled(owner, program)) return propertyOf(*window, property);
     return std::nullopt;
 }
 

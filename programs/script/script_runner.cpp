@@ -12,19 +12,27 @@
 
 namespace zifferon {
 
+namespace {
+
+// Thrown through the handlers that wait for a modal window to close.
+class ScriptOver {};
+class BeginsAnew {};
+
+}  // namespace
+
 ScriptRunner::ScriptRunner(std::ostream& out, std::ostream& errors)
     : out_(out), errors_(errors), headless_(out), files_(disk_), machine_{headless_, headless_, headless_,
                                                                           files_,    headless_, headless_,
-                                                                          system_,   headless_} {}
+                                                                          system_,   headless_} {
+    headless_.whileModal = [this](const Window& modal) { stayIn(modal); };
+}
 
 int ScriptRunner::run(std::istream& script) {
-    std::string line;
+    script_ = &script;
     try {
-        while (std::getline(script, line)) {
-            ++lineNumber_;
-            if (!line.empty() && line.back() == '\r') line.pop_back();
-            runLine(line);
-        }
+        runLines([] { return true; });
+    } catch (const ScriptOver&) {
+        // It ends while a modal window is open.
     } catch (const ProcessEnded&) {
         // The rest of the script has no program to run on.
     } catch (const MalformedScript& reason) {
@@ -34,6 +42,30 @@ int ScriptRunner::run(std::istream& script) {
     }
     out_.flush();
     return allHeld_ ? 0 : 1;
+}
+
+void ScriptRunner::runLines(const std::function<bool()>& going) {
+    while (going() && std::getline(*script_, line_)) {
+        ++lineNumber_;
+        if (!line_.empty() && line_.back() == '\r') line_.pop_back();
+        try {
+            runLine(line_);
+        } catch (const BeginsAnew&) {
+            if (headless_.modal().window != nullptr) throw;
+            runLine(line_);
+        }
+    }
+}
+
+// The handler that has opened the window waits, and the script goes on in it.
+void ScriptRunner::stayIn(const Window& modal) {
+    runLines([&] { return modal.visible; });
+    if (modal.visible) throw ScriptOver();
+}
+
+// A new calculator begins outside of all handlers of the former one.
+void ScriptRunner::unwindModal() const {
+    if (headless_.modal().window != nullptr) throw BeginsAnew();
 }
 
 void ScriptRunner::runLine(std::string_view text) {
@@ -71,10 +103,9 @@ bool ScriptRunner::runKeys(const std::string& command, ScriptLine& line) {
         do {
             const std::string name = line.word();
             if (isAccessKeyOfBlank(name)) {
-                Control* const button = program().pultform.find(u"spezrnd");
-                program().keys.run(button->onClick);
+                if (Control* const button = window().find(u"spezrnd")) keys().run(button->onClick);
             } else {
-                program().keys.stroke(scriptKey(name));
+                keys().stroke(scriptKey(name));
             }
         } while (!line.atEnd());
         return true;
@@ -83,14 +114,14 @@ bool ScriptRunner::runKeys(const std::string& command, ScriptLine& line) {
         const Key key = scriptKey(line.word());
         const std::int64_t times = line.number();
         line.expectEnd();
-        for (std::int64_t i = 0; i < times; ++i) program().keys.keyDown(key);
-        program().keys.keyUp(key);
+        for (std::int64_t i = 0; i < times; ++i) keys().keyDown(key);
+        keys().keyUp(key);
         return true;
     }
     if (command == "down" || command == "up") {
         const Key key = scriptKey(line.word());
         line.expectEnd();
-        command == "down" ? program().keys.keyDown(key) : program().keys.keyUp(key);
+        command == "down" ? keys().keyDown(key) : keys().keyUp(key);
         return true;
     }
     return false;
@@ -98,25 +129,30 @@ bool ScriptRunner::runKeys(const std::string& command, ScriptLine& line) {
 
 bool ScriptRunner::runMouse(const std::string& command, ScriptLine& line) {
     if (command == "focus" || command == "caret" || command == "select") return select(command, line), true;
-    Window& window = program_ ? static_cast<Window&>(program_->pultform) : program().pultform;
-    KeyRoad& keys = program().keys;
-    if (command == "click") return userClick(window, keys, control(line)), true;
-    if (command == "dblclick") return userDoubleClick(window, keys, control(line)), true;
-    if (command == "mousedown") return userMouseDown(keys, control(line)), true;
-    if (command == "mouseup") return userMouseUp(keys, control(line)), true;
-    if (command == "hover") return userHover(keys, control(line)), true;
-    return false;
+    using Action = void (*)(Window&, KeyRoad&, Control&);
+    static const std::map<std::string, Action> actions = {
+        {"click", userClick},
+        {"dblclick", userDoubleClick},
+        {"mousedown", [](Window&, KeyRoad& road, Control& target) { userMouseDown(road, target); }},
+        {"mouseup", [](Window&, KeyRoad& road, Control& target) { userMouseUp(road, target); }},
+        {"hover", [](Window&, KeyRoad& road, Control& target) { userHover(road, target); }}};
+    const auto action = actions.find(command);
+    if (action == actions.end()) return false;
+    Control& target = control(line);
+    if (windowOf(target, program()) == &window()) action->second(window(), keys(), target);
+    return true;
 }
 
 bool ScriptRunner::runDesktop(const std::string& command, ScriptLine& line) {
     Desktop& desktop = headless_;
     const auto run = [&](const std::function<void()>& handler) {
         line.expectEnd();
-        program().keys.run(handler);
+        program();
+        if (headless_.modal().window == nullptr) keys().run(handler);
         return true;
     };
     if (command == "hotkey") return run(desktop.onHotKey);
-    if (command == "session-end") return run(desktop.onSessionEnd);
+    if (command == "session-end") return line.expectEnd(), program().keys.run(desktop.onSessionEnd), true;
     if (command == "tray") {
         const std::string what = line.word();
         if (what == "show") return run(desktop.onTrayShow);
@@ -125,10 +161,12 @@ bool ScriptRunner::runDesktop(const std::string& command, ScriptLine& line) {
         throw MalformedScript("unknown part of the tray " + what);
     }
     if (command != "close" && command != "activate") return false;
-    const Window& window = program().pultform;
     const std::string name = line.word();
-    if (name != toUtf8(window.name)) throw MalformedScript("unknown window " + name);
-    return run(command == "close" ? window.onDismiss : window.onActivate);
+    const Window* const named = windowCalled(name, program());
+    if (named == nullptr) throw MalformedScript("unknown window " + name);
+    line.expectEnd();
+    if (named == &window()) keys().run(command == "close" ? named->onDismiss : named->onActivate);
+    return true;
 }
 
 bool ScriptRunner::runLook(const std::string& command, ScriptLine& line) {
@@ -172,6 +210,7 @@ void ScriptRunner::setMachine(ScriptLine& line) {
 
 void ScriptRunner::start(ScriptLine& line) {
     line.expectEnd();
+    unwindModal();
     beginAnew();
     program_->keys.run([this] { program_->start(); });
 }
@@ -183,6 +222,7 @@ void ScriptRunner::beginAnew() {
 }
 
 void ScriptRunner::fresh(ScriptLine& line) {
+    unwindModal();
     beginAnew();
     CalculatorState& s = program_->pultform.state;
     while (!line.atEnd()) {
@@ -225,13 +265,13 @@ void ScriptRunner::answer(ScriptLine& line) {
 }
 
 void ScriptRunner::type(TextView text) {
-    for (const char16_t character : text) program().keys.stroke(keyOfCharacter(character));
+    for (const char16_t character : text) keys().stroke(keyOfCharacter(character));
 }
 
 void ScriptRunner::select(const std::string& command, ScriptLine& line) {
     Control& target = control(line);
     if (command == "focus") {
-        if (target.takesFocus) program().keys.run([&] { program().pultform.setFocus(target); });
+        if (target.takesFocus) keys().run([&] { window().setFocus(target); });
         return;
     }
     auto* const field = dynamic_cast<TextField*>(&target);
@@ -284,6 +324,16 @@ void ScriptRunner::fail(std::string_view name, std::string_view expected, std::s
 Program& ScriptRunner::program() {
     if (!program_) throw MalformedScript("no calculator yet: fresh comes first");
     return *program_;
+}
+
+Window& ScriptRunner::window() {
+    Window* const modal = headless_.modal().window;
+    return modal != nullptr ? *modal : program().pultform;
+}
+
+KeyRoad& ScriptRunner::keys() {
+    KeyRoad* const modal = headless_.modal().keys;
+    return modal != nullptr ? *modal : program().keys;
 }
 
 Control& ScriptRunner::control(ScriptLine& line) {

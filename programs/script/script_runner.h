@@ -1,9 +1,11 @@
 // Runs a key script on the program without a window: one line is one command.
 #pragma once
 
+#include <functional>
 #include <istream>
 #include <memory>
 #include <ostream>
+#include <string>
 #include <string_view>
 
 #include "platform/headless/faulty_files.h"
@@ -25,7 +27,10 @@ class ScriptRunner {
     int run(std::istream& script);
 
   private:
+    void runLines(const std::function<bool()>& going);
     void runLine(std::string_view line);
+    void stayIn(const Window& modal);
+    void unwindModal() const;
     bool runStage(const std::string& command, ScriptLine& line);
     bool runKeys(const std::string& command, ScriptLine& line);
     bool runMouse(const std::string& command, ScriptLine& line);
@@ -47,6 +52,10 @@ class ScriptRunner {
     Program& program();
     Control& control(ScriptLine& line);
 
+    // The window that takes keys and the mouse, and its key road.
+    Window& window();
+    KeyRoad& keys();
+
     std::ostream& out_;
     std::ostream& errors_;
     HeadlessMachine headless_;
@@ -55,6 +64,8 @@ class ScriptRunner {
     FaultyFiles files_;
     Machine machine_;
     std::unique_ptr<Program> program_;
+    std::istream* script_ = nullptr;
+    std::string line_;
     std::size_t lineNumber_ = 0;
     bool allHeld_ = true;
 };

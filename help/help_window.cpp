@@ -1,0 +1,98 @@
+#include "help/help_window.h"
+
+namespace zifferon {
+
+namespace {
+
+constexpr Colour white{255, 255, 255};
+constexpr Colour key{214, 214, 214};
+constexpr Place outside{-3000, 0, 300, 300};
+
+// The quick reference is 503 by 326 pixels.
+constexpr Place reference{120, 120, 7545, 4890};
+
+bool isConfirmation(char16_t character) { return character == u'\r' || character == u' '; }
+
+}  // namespace
+
+HelpWindow::HelpWindow() {
+    name = u"Help";
+    place = {0, 0, 7875, 7290};
+    add(hintergrund, u"hintergrund");
+    hintergrund.place = {0, 0, 7785, 6915};
+    add(referenzd, u"referenzd");
+    add(referenze, u"referenze");
+    referenzd.place = referenze.place = reference;
+    referenzd.picture = u"reference_de";
+    referenze.picture = u"reference_en";
+    referenzd.accessibleName = u"Kurzanleitung";
+    referenze.accessibleName = u"Quick Reference";
+    addTexts();
+    addButtons();
+    add(Picture1, u"Picture1");
+    Picture1.place = outside;
+    Picture1.takesFocus = true;
+    Picture1.onClick = [this] { setFocus(Picture1); };
+    add(Timer2, u"Timer2");
+    onDismiss = [this] { visible = false; };
+    setCaptions(false);
+    setTitle(false);
+    showReference(false);
+}
+
+void HelpWindow::addTexts() {
+    add(Frame2, u"Frame2");
+    Frame2.place = {120, 5115, 3900, 1680};
+    const auto addText = [this](TextField& field, TextView fieldName, int top, TextView text) {
+        add(field, fieldName);
+        field.place = {270, top, 3600, 330};
+        field.setText(text);
+        field.font = {u"Arial", 8.25, false};
+        field.backColour = white;
+        field.locked = true;
+        field.frame = &Frame2;
+        field.onClick = [this] { setFocus(Picture1); };
+    };
+    addText(Text6, u"Text6", 5310, u"Zifferon PRO 5.0");
+    Text6.font.bold = true;
+    addText(Text1, u"Text1", 5655, u"Tischrechner mit virtuellem Rechenstreifen");
+    addText(Text3, u"Text3", 6000, u"Desktop calculator with a virtual paper tape");
+    addText(Text8, u"Text8", 6345, u"www.zifferon-pro.example");
+    Text1.onGotFocus = [this] { setFocus(Picture1); };
+}
+
+void HelpWindow::addButtons() {
+    const auto addButton = [this](Control& button, TextView buttonName, Place buttonPlace) {
+        add(button, buttonName);
+        button.place = buttonPlace;
+        button.backColour = key;
+        button.onKeyPress = [&button](char16_t& character) {
+            if (isConfirmation(std::exchange(character, u'\0'))) button.click();
+        };
+    };
+    addButton(Command5, u"Command5", {4140, 5160, 3525, 480});
+    addButton(Command3, u"Command3", {4140, 5730, 1710, 480});
+    addButton(Command2, u"Command2", {5955, 5730, 1710, 480});
+    addButton(Command1, u"Command1", {4140, 6300, 3525, 480});
+    Command3.caption = u"Deutsch";
+    Command3.picture = u"flag_de";
+    Command2.caption = u"English";
+    Command2.picture = u"flag_en";
+    Command1.onClick = [this] { visible = false; };
+}
+
+void HelpWindow::setCaptions(bool english) {
+    Command5.caption = english ? u"Show User's &Guide" : u"&Benutzerleitfaden";
+    Command1.caption = english ? u"&Exit help" : u"Hilfe &schließen";
+}
+
+void HelpWindow::setTitle(bool english) {
+    caption = english ? u"Zifferon PRO 5.0 - Help" : u"Zifferon PRO 5.0 - Hilfe";
+}
+
+void HelpWindow::showReference(bool english) {
+    referenze.visible = english;
+    referenzd.visible = !english;
+}
+
+}  // namespace zifferon

@@ -1,0 +1,37 @@
+// The help window: the quick reference as a picture, the way to the user's guide, and the two languages.
+// While it is open it takes the place of the main window.
+#pragma once
+
+#include "platform/window.h"
+
+namespace zifferon {
+
+class HelpWindow : public Window {
+  public:
+    HelpWindow();
+
+    // The captions that the window has from its loading on.
+    void setCaptions(bool english);
+
+    // Those that it gets each time it becomes active, and with a change of the language.
+    void setTitle(bool english);
+    void showReference(bool english);
+
+    // What covers the window in one colour with it.
+    Control hintergrund{ControlKind::label};
+    Control Frame2{ControlKind::frame};
+
+    Control referenzd{ControlKind::picture}, referenze{ControlKind::picture};  // one of the two is visible
+    TextField Text6, Text1, Text3, Text8;   // what the program is; they cannot keep the focus
+    Control Command5{ControlKind::button};  // opens the user's guide
+    Control Command3{ControlKind::button}, Command2{ControlKind::button};  // German, English
+    Control Command1{ControlKind::button};                                 // closes the window
+    Control Picture1{ControlKind::picture};  // has the focus where nothing else is to have it
+    Timer Timer2;                            // keeps the main window out of sight
+
+  private:
+    void addTexts();
+    void addButtons();
+};
+
+}  // namespace zifferon

@@ -36,7 +36,8 @@ class Windows {
     virtual void hide(Window& window) = 0;
 
     // Shows the window, tells it by onActivate, and returns when it is no longer visible. No other window
-    // takes keys or the mouse meanwhile.
+    // takes keys or the mouse meanwhile. The only window of the program stays on the screen, and takes keys,
+    // until the next one is in use, and must live until then: keys must not fall between the two.
     virtual void showModal(Window& window) = 0;
 };
 

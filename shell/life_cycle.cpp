@@ -6,13 +6,12 @@
 #include "shell/colour_schemes.h"
 #include "shell/language.h"
 #include "shell/settings_files.h"
-#include "shell/start_up.h"
 #include "shell/write_protection.h"
 
 namespace zifferon {
 
 LifeCycle::LifeCycle(Pultform& window, Kopf& kopf, HelpWindow& help, KeyRoad& keys, Undo& undo,
-                     WindowModes& modes, Machine& machine)
+                     CalculationRecord& record, WindowModes& modes, Machine& machine)
     : window_(window),
       kopf_(kopf),
       help_(help),
@@ -20,10 +19,11 @@ LifeCycle::LifeCycle(Pultform& window, Kopf& kopf, HelpWindow& help, KeyRoad& ke
       undo_(undo),
       modes_(modes),
       machine_(machine),
+      startUp_(window, kopf, record, modes, machine),
       s(window.state) {}
 
-void LifeCycle::start(CalculationRecord& record) {
-    typedAhead_ = StartUp(window_, kopf_, record, modes_, machine_).run();
+void LifeCycle::start() {
+    startUp_.run();
     machine_.desktop.registerHotKey();
     show();
 }
@@ -66,7 +66,7 @@ void LifeCycle::firstActivation() {
     if (options.windowMode == 2) modes_.restoreStrip();
     if (s.undoActive) beginSnapshots(options);
     // Behind the round trip through the layouts, as they were typed.
-    for (const Key key : std::exchange(typedAhead_, {})) keys_.queue(key);
+    for (const Key key : startUp_.typedAhead()) keys_.queue(key);
 }
 
 void LifeCycle::applySettings() {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
 #include "core/calculator_state.h"
 #include "help/help_window.h"
@@ -11,6 +10,7 @@
 #include "platform/machine.h"
 #include "print/kopf.h"
 #include "shell/pultform.h"
+#include "shell/start_up.h"
 #include "shell/start_windows.h"
 #include "shell/window_modes.h"
 
@@ -18,12 +18,12 @@ namespace zifferon {
 
 class LifeCycle {
   public:
-    LifeCycle(Pultform& window, Kopf& kopf, HelpWindow& help, KeyRoad& keys, Undo& undo, WindowModes& modes,
-              Machine& machine);
+    LifeCycle(Pultform& window, Kopf& kopf, HelpWindow& help, KeyRoad& keys, Undo& undo,
+              CalculationRecord& record, WindowModes& modes, Machine& machine);
 
     // Everything between the start of the process and the shown window, in its order. A condition that cannot
     // be mended ends the process after its box.
-    void start(CalculationRecord& record);
+    void start();
 
     // The pauses before the process ends, in milliseconds.
     static constexpr int pauseAfterKey = 1000, pauseAfterTray = 1500;
@@ -58,8 +58,8 @@ class LifeCycle {
     Undo& undo_;
     WindowModes& modes_;
     Machine& machine_;
+    StartUp startUp_;
     CalculatorState& s;
-    std::vector<Key> typedAhead_;
     bool firstActivateDone_ = false;
     bool inTray_ = false;
     bool layoutCyclePending_ = false;

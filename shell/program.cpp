@@ -22,7 +22,7 @@ Program::Program(Machine& machine)
       record_(pultform.state),
       undo_(pultform.state, record_, machine, [this] { showNothingToUndo(); }),
       modes_(pultform, machine.system),
-      life_(pultform, kopf, help, keys, undo_, modes_, machine),
+      life_(pultform, kopf, help, keys, undo_, record_, modes_, machine),
       page_(pultform.state, pultform.page, pultform.stripes, pultform, machine.boxes, alwaysOnTopFile()),
       helpDesk_(pultform, kopf, help, machine,
                 [this](const std::string& file, float value) { store(file, value); }),

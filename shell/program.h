@@ -30,7 +30,7 @@ class Program {
     std::array<Window*, 3> windows() { return {&pultform, &kopf, &help}; }
 
     // The real start, from the check of the components to the shown window.
-    void start() { life_.start(record_); }
+    void start() { life_.start(); }
 
     // A calculator as it stands after a start on an empty quick file, without checks and windows.
     void beginFresh();

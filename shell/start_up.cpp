@@ -6,7 +6,6 @@
 #include "print/letterhead.h"
 #include "shell/locale.h"
 #include "shell/settings_files.h"
-#include "shell/start_windows.h"
 #include "shell/write_protection.h"
 
 namespace zifferon {
@@ -64,7 +63,7 @@ StartUp::StartUp(Pultform& window, Kopf& kopf, CalculationRecord& record, Window
                  Machine& machine)
     : window_(window), kopf_(kopf), record_(record), modes_(modes), machine_(machine), s(window.state) {}
 
-std::vector<Key> StartUp::run() {
+void StartUp::run() {
     checkComponents();
     probeWriting();
     openUndoSwitch();
@@ -74,11 +73,10 @@ std::vector<Key> StartUp::run() {
     s.languageEnglish = readsEnglish(machine_.files);
     settleUnknownSeparator();
     readFrame();
-    std::vector<Key> typedAhead = showLoadingWindow();
+    showLoadingWindow();
     restoreState();
     if (s.zwischen.empty()) s.zwischen.setText(u"0");
     restoreLetterhead();
-    return typedAhead;
 }
 
 void StartUp::checkComponents() {
@@ -116,10 +114,9 @@ void StartUp::readLocale() {
 }
 
 void StartUp::firstRun() {
-    Form3 form3;
-    machine_.windows.showModal(form3);
-    if (form3.choice() == Form3::Choice::none) machine_.process.end();  // the next start asks again
-    const bool inEnglish = form3.choice() == Form3::Choice::english;
+    machine_.windows.showModal(form3_);
+    if (form3_.choice() == Form3::Choice::none) machine_.process.end();  // the next start asks again
+    const bool inEnglish = form3_.choice() == Form3::Choice::english;
     try {
         machine_.files.createFolder("Temp");
         writeSingle(machine_.files, settingsFile::language, inEnglish ? 1 : 0);
@@ -156,8 +153,8 @@ void StartUp::readFrame() {
     modes_.setFrame(hasModernFrame(machine_.system), sizes);
 }
 
-std::vector<Key> StartUp::showLoadingWindow() {
-    Form1 form1(s.languageEnglish);
+void StartUp::showLoadingWindow() {
+    Form1& form1 = form1_.emplace(s.languageEnglish);
     bool begun = false;
     const auto focusLoad = form1.onActivate;
     form1.onActivate = [&] {
@@ -172,7 +169,6 @@ std::vector<Key> StartUp::showLoadingWindow() {
         form1.visible = false;
     };
     machine_.windows.showModal(form1);
-    return form1.typedAhead();
 }
 
 void StartUp::restoreState() {

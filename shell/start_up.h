@@ -1,12 +1,14 @@
 // From the start of the process to the window that is ready to be shown: checks, first run, the last state.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "platform/key.h"
 #include "platform/machine.h"
 #include "print/kopf.h"
 #include "shell/pultform.h"
+#include "shell/start_windows.h"
 #include "shell/window_modes.h"
 #include "storage/calculation_record.h"
 
@@ -16,9 +18,11 @@ class StartUp {
   public:
     StartUp(Pultform& window, Kopf& kopf, CalculationRecord& record, WindowModes& modes, Machine& machine);
 
-    // All steps in their order. A condition that cannot be mended ends the process after its box. Returns
-    // what was typed while the loading window stood.
-    std::vector<Key> run();
+    // All steps in their order. A condition that cannot be mended ends the process after its box.
+    void run();
+
+    // What has been typed into the loading window, from its opening until the next one is in use.
+    std::vector<Key> typedAhead() const { return form1_ ? form1_->typedAhead() : std::vector<Key>(); }
 
   private:
     void checkComponents();
@@ -28,7 +32,7 @@ class StartUp {
     void firstRun();
     void settleUnknownSeparator();
     void readFrame();
-    std::vector<Key> showLoadingWindow();
+    void showLoadingWindow();
     void restoreState();
     void applyRecord();
     void restoreLetterhead();
@@ -40,6 +44,8 @@ class StartUp {
     WindowModes& modes_;
     Machine& machine_;
     CalculatorState& s;
+    Form3 form3_;
+    std::optional<Form1> form1_;
 };
 
 }  // namespace zifferon

@@ -78,6 +78,7 @@ void FormView::prepare() {
 }
 
 void FormView::refresh() {
+    if (lingers_) return;
     if (window_.visible) prepare();
     timers_.refresh();
     refreshShown();
@@ -216,15 +217,16 @@ void FormView::refreshFocus() {
 }
 
 // A window that comes back comes to the front, and where it was: left to itself, the window manager would
-// look for a new place.
+// look for a new place. A new one comes to the front by itself; asked to bring it there at the same time,
+// some window managers take the keyboard away from it once more, and keys are lost.
 void FormView::refreshShown() {
     if (isVisible() == window_.visible && isMinimized() == window_.minimised) return;
-    const bool comesBack = !isVisible() && windowHandle() != nullptr;
-    if (comesBack) move(pos());
+    const bool comesBack = windowHandle() != nullptr;
+    if (comesBack && !isVisible()) move(pos());
     setWindowState(window_.minimised ? windowState() | Qt::WindowMinimized
                                      : windowState() & ~Qt::WindowMinimized);
     setVisible(window_.visible);
-    if (!window_.visible || window_.minimised) return;
+    if (!comesBack || !window_.visible || window_.minimised) return;
     raise();
     activateWindow();
 }

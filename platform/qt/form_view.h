@@ -29,6 +29,9 @@ class FormView : public QWidget {
     // Makes ready what a hidden window will show.
     void prepare();
 
+    // It stays on the screen from now on, whatever the window says, until it is destroyed.
+    void linger() { lingers_ = true; }
+
     // The forms of the program.
     static std::vector<FormView*> all();
 
@@ -70,6 +73,7 @@ class FormView : public QWidget {
     std::optional<Text> caption_;
     std::optional<Colour> backColour_;
     bool alwaysOnTop_ = false;
+    bool lingers_ = false;
 };
 
 }  // namespace zifferon

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
 
 #include "platform/qt/form_view.h"
@@ -28,6 +29,8 @@ struct QtWindows::Shown {
 
 namespace {
 
+constexpr int longestLeave = 1000;  // milliseconds
+
 FormView* viewOf(const Window& window) {
     const std::vector<FormView*> forms = FormView::all();
     const auto view =
@@ -37,14 +40,22 @@ FormView* viewOf(const Window& window) {
 
 }  // namespace
 
-QtWindows::QtWindows(Sound& sound) : sound_(sound) {}
+QtWindows::QtWindows(Sound& sound) : sound_(sound) {
+    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &focusWatch_,
+                     [this](const QWindow* inUse) { endLeaving(inUse); });
+}
+
 QtWindows::~QtWindows() = default;
 
 void QtWindows::show(Window& window) {
     if (viewOf(window) == nullptr) shown_.push_back(std::make_unique<Shown>(window, sound_, nullptr));
+    FormView* const view = viewOf(window);
+    const bool wasSeen = view->isVisible();
     window.visible = true;
     FormView::refreshAll();
-    FormView* const view = viewOf(window);
+    // Where there is no window manager, nothing comes into use by itself.
+    QTimer::singleShot(longestLeave, &focusWatch_, [this] { leaving_.reset(); });
+    if (!wasSeen) return;
     view->raise();
     view->activateWindow();
 }
@@ -55,15 +66,33 @@ void QtWindows::hide(Window& window) {
 }
 
 void QtWindows::showModal(Window& window) {
-    Shown shown(window, sound_, QApplication::activeWindow());
-    shown.view.setWindowModality(Qt::ApplicationModal);
+    const bool alone = nothingSeen();
+    auto shown = std::make_unique<Shown>(window, sound_, alone ? nullptr : QApplication::activeWindow());
+    if (!alone) shown->view.setWindowModality(Qt::ApplicationModal);
     window.visible = true;
-    shown.view.refresh();
-    shown.view.activateWindow();
+    shown->view.refresh();
     QCoreApplication::processEvents();
     // While the screen puts the window up, those that come later get ready.
     for (FormView* form : FormView::all()) form->prepare();
     while (window.visible) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    if (!alone) return;
+    shown->view.linger();
+    leaving_ = std::move(shown);
+}
+
+bool QtWindows::nothingSeen() const {
+    const std::vector<FormView*> forms = FormView::all();
+    return std::none_of(forms.begin(), forms.end(), [this](const FormView* form) {
+        return form->isVisible() && !(leaving_ && form == &leaving_->view);
+    });
+}
+
+void QtWindows::endLeaving(const QWindow* inUse) {
+    const std::vector<FormView*> forms = FormView::all();
+    const bool next = std::any_of(forms.begin(), forms.end(), [&](const FormView* form) {
+        return form->windowHandle() == inUse && leaving_ && form != &leaving_->view;
+    });
+    if (next && inUse != nullptr) leaving_.reset();
 }
 
 }  // namespace zifferon

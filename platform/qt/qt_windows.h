@@ -1,6 +1,8 @@
 // The windows of the program beside the main one, each in a view of its own.
 #pragma once
 
+#include <QObject>
+#include <QWindow>
 #include <memory>
 #include <vector>
 
@@ -19,15 +21,20 @@ class QtWindows : public Windows {
     void show(Window& window) override;
     void hide(Window& window) override;
 
-    // In the middle of the window in use, with a nested event loop.
+    // With a nested event loop; in the middle of the window in use, or of the screen.
     void showModal(Window& window) override;
 
   private:
     // A window with keys of its own, and its view.
     struct Shown;
 
+    bool nothingSeen() const;
+    void endLeaving(const QWindow* inUse);
+
     Sound& sound_;
     std::vector<std::unique_ptr<Shown>> shown_;
+    std::unique_ptr<Shown> leaving_;  // stays until the next window is in use
+    QObject focusWatch_;
 };
 
 }  // namespace zifferon

@@ -23,8 +23,11 @@ int distance(const QRect& area, QPoint point) {
     return (nearest - point).manhattanLength();
 }
 
-// Where a window wanted at `frame` can be seen: there, if enough of its title can be taken hold of on some
-// screen; otherwise at the nearest place of the nearest screen, with its left and top end if it is too large.
+int areaOf(QSize size) { return size.width() * size.height(); }
+
+// Where a window wanted at `frame` can be seen: there, if some screen shows half of it, and enough of its
+// title to take hold of; otherwise at the nearest place of the nearest screen, with its left and top end if
+// it is too large.
 QPoint visiblePosition(const QRect& frame) {
     constexpr int grip = 60, titleHeight = frameHeight / twipsPerPixel;
     QRect nearest;
@@ -32,9 +35,9 @@ QPoint visiblePosition(const QRect& frame) {
     for (const QScreen* screen : QGuiApplication::screens()) {
         const QRect area = screen->availableGeometry();
         const QRect title = area & QRect(frame.topLeft(), QSize(frame.width(), titleHeight));
-        if (title.width() >= std::min(grip, frame.width()) && title.height() == titleHeight) {
-            return frame.topLeft();
-        }
+        const bool canBeMoved =
+            title.width() >= std::min(grip, frame.width()) && title.height() == titleHeight;
+        if (canBeMoved && 2 * areaOf((area & frame).size()) >= areaOf(frame.size())) return frame.topLeft();
         if (const int away = distance(area, frame.center()); away < shortest) {
             shortest = away;
             nearest = area;

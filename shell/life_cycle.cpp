@@ -165,6 +165,7 @@ void LifeCycle::unload() {
     machine_.desktop.removeTrayIcon();
     hideInTray();
     machine_.windows.hide(window_);
+    machine_.windows.hide(help_);
     machine_.desktop.removeTrayIcon();
     if (s.undoActive) undo_.emptyFolder();
 }

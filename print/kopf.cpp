@@ -11,8 +11,8 @@ constexpr Colour key{214, 214, 214};
 
 // Twips. The columns are where the words of the headings over them come to stand.
 constexpr int margin = 165, rowHeight = 330, rowStep = 405;
-constexpr int tickLeft = 405, tickWidth = 300, textLeft = 1065, textWidth = 4035, sizeLeft = 5445,
-              sizeWidth = 930, switchLeft = 6750, switchWidth = 2085;
+constexpr int tickLeft = 405, tickWidth = 300, textLeft = 1065, textWidth = 4170, sizeLeft = 5445,
+              sizeWidth = 1035, switchLeft = 6750, switchWidth = 2085;
 
 Text blanks(std::size_t count) { return Text(count, u' '); }
 

@@ -81,7 +81,6 @@ void FormView::prepare() {
 }
 
 void FormView::refresh() {
-    if (lingers_) return;
     if (window_.visible) prepare();
     timers_.refresh();
     refreshShown();
@@ -223,13 +222,14 @@ void FormView::refreshFocus() {
 // look for a new place. A new one comes to the front by itself; asked to bring it there at the same time,
 // some window managers take the keyboard away from it once more, and keys are lost.
 void FormView::refreshShown() {
-    if (isVisible() == window_.visible && isMinimized() == window_.minimised) return;
+    const bool shown = window_.visible || (stays_ && isVisible());
+    if (isVisible() == shown && isMinimized() == window_.minimised) return;
     const bool comesBack = windowHandle() != nullptr;
     if (comesBack && !isVisible()) move(pos());
     setWindowState(window_.minimised ? windowState() | Qt::WindowMinimized
                                      : windowState() & ~Qt::WindowMinimized);
-    setVisible(window_.visible);
-    if (!comesBack || !window_.visible || window_.minimised) return;
+    setVisible(shown);
+    if (!comesBack || !shown || window_.minimised) return;
     raise();
     activateWindow();
 }

@@ -29,8 +29,8 @@ class FormView : public QWidget {
     // Makes ready what a hidden window will show.
     void prepare();
 
-    // It stays on the screen from now on, whatever the window says, until it is destroyed.
-    void linger() { lingers_ = true; }
+    // Once it is shown it stays on the screen until it is destroyed, also when its window is hidden.
+    void stay() { stays_ = true; }
 
     // The forms of the program.
     static std::vector<FormView*> all();
@@ -73,7 +73,7 @@ class FormView : public QWidget {
     std::optional<Text> caption_;
     std::optional<Colour> backColour_;
     bool alwaysOnTop_ = false;
-    bool lingers_ = false;
+    bool stays_ = false;
 };
 
 }  // namespace zifferon

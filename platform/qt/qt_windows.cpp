@@ -68,16 +68,14 @@ void QtWindows::hide(Window& window) {
 void QtWindows::showModal(Window& window) {
     const bool alone = nothingSeen();
     auto shown = std::make_unique<Shown>(window, sound_, alone ? nullptr : QApplication::activeWindow());
-    if (!alone) shown->view.setWindowModality(Qt::ApplicationModal);
+    alone ? shown->view.stay() : shown->view.setWindowModality(Qt::ApplicationModal);
     window.visible = true;
     shown->view.refresh();
     QCoreApplication::processEvents();
     // While the screen puts the window up, those that come later get ready.
     for (FormView* form : FormView::all()) form->prepare();
     while (window.visible) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    if (!alone) return;
-    shown->view.linger();
-    leaving_ = std::move(shown);
+    if (alone) leaving_ = std::move(shown);
 }
 
 bool QtWindows::nothingSeen() const {

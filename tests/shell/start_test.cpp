@@ -109,6 +109,16 @@ TEST_F(Start, bearsRubbishInEverySettingsFile) {
     }
 }
 
+TEST_F(Start, stopsAtADamagedLetterheadUntilItIsDeleted) {
+    headless_.queueAnswer(BoxAnswer::english);
+    ASSERT_TRUE(startAndAdd());
+    folder_.put("setup.zfr", std::string(8, '\xFF'));
+    EXPECT_FALSE(startAndAdd());
+    EXPECT_TRUE(logHas("box critical ok \"Zifferon PRO 5.0\" \"Die Datei SETUP.ZFR wurde beschädigt! "));
+    std::filesystem::remove(folder_ / "setup.zfr");
+    EXPECT_TRUE(startAndAdd());
+}
+
 // Each operation on the folder fails once: the program ends with its box or goes on, and the next start
 // works.
 TEST_F(Start, survivesAFaultAtEveryOperation) {

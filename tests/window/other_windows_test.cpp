@@ -1,0 +1,98 @@
+// The windows around the calculator, as a person meets them: loading window, Print/Edit page, help window.
+#include <QFile>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "platform/qt/application.h"
+#include "tests/window/window_fixture.h"
+
+namespace zifferon::test {
+
+namespace {
+
+constexpr int letterE = 26, letterH = 43;
+
+void deliver(const char* name, const QByteArray& bytes = {}) {
+    QFile file(QString::fromLatin1(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+// A hundred additions a second through the whole start, from the loading window on into the main one.
+TEST(StartTest, NoKeyIsLostBetweenTheWindows) {
+    const FreshFolder folder;
+    for (const char* name :
+         {"font.zfr", "rattle1.wav", "rattle2.wav", "start.wav", "switch.wav", "switch2.wav", "temp.dat",
+          "trash.wav", "undo.wav", "zifferonpro-help_de.chm", "zifferonpro-help_en.chm", "quicksave.zfr"}) {
+        deliver(name);
+    }
+    deliver("ntcheck.zfr", QByteArray("\0\0\x80\x3F", 4));  // the first run is behind it
+    deliver("decpoint.dat", QByteArray("\0\0\x80\x3F", 4));
+    QDir().mkdir(QStringLiteral("Temp"));
+    QtMachine machine;
+    Program program(machine.machine);
+    FormView view(program.pultform, program.keys);
+    machine.desktop.attachTo(view);
+
+    RealInput hands;
+    hands.setNumLock(true);
+    constexpr int additions = 250;
+    int typed = 0;
+    QTimer typist;
+    typist.callOnTimeout([&] {
+        if (typed == 0 && QApplication::activeWindow() == nullptr) return;
+        hands.stroke({keys::keypad7, keys::keypadAdd});
+        if (++typed == additions) typist.stop();
+    });
+    typist.start(10);
+    program.start();
+    EXPECT_GT(typed, 0);
+    const Text& tape = program.pultform.state.anzeige.text();
+    EXPECT_TRUE(comesTrue([&] { return std::count(tape.begin(), tape.end(), u'\n') == additions; }))
+        << std::count(tape.begin(), tape.end(), u'\n');
+    EXPECT_TRUE(view.isActiveWindow());
+}
+
+TEST_F(WindowTest, TheRuledLinesLeaveTheMouseToThePrintCopy) {
+    state().superdruck.setText(u"\r\none\r\ntwo\r\nthree");
+    click(program.pultform.page.edit, {10, 10});
+    ASSERT_TRUE(comesTrue([&] { return state().superdruck.visible; }));
+    EXPECT_TRUE(comesTrue([&] { return program.pultform.focus() == &state().superdruck; }));
+    const Control& line = program.pultform.stripes.raster[2];
+    ASSERT_TRUE(line.visible);
+    click(line, {300, 0});
+    EXPECT_TRUE(comesTrue([&] { return state().superdruck.caret() > 0; }));
+}
+
+TEST_F(WindowTest, LanguageChangesInTheHelpWindow) {
+    QTimer answerer;
+    answerer.callOnTimeout([&] {
+        const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr || !box->isActiveWindow()) return;
+        answerer.stop();
+        hands.stroke({keys::enter});
+    });
+    answerer.start(10);
+    whenAWindowOpens([&](QWidget& help) {
+        EXPECT_EQ(help.windowTitle(), QStringLiteral("Zifferon PRO 5.0 - Hilfe"));
+        EXPECT_TRUE(comesTrue([&] { return view.width() == 1; }));
+        const QWidget& english = *help.findChild<QWidget*>(QStringLiteral("Command2"));
+        hands.moveMouse(english.mapToGlobal(english.rect().center()));
+        hands.click();
+        EXPECT_TRUE(comesTrue([&] { return !answerer.isActive() && help.isActiveWindow(); }));
+        pressWith(keys::alt, letterE);
+    });
+    const QSize size = view.size();
+    const auto* const edit = view.findChild<QPushButton*>(QStringLiteral("edit"));
+    EXPECT_EQ(edit->text(), QStringLiteral("&Druck/Edit"));
+    pressWith(keys::alt, letterH);
+    ASSERT_TRUE(comesTrue([&] { return state().languageEnglish; }));
+    EXPECT_TRUE(comesTrue([&] { return view.isActiveWindow() && view.size() == size; }));
+    EXPECT_EQ(edit->text(), QStringLiteral("Print / &Edit"));
+    hands.stroke({keys::keypad5});
+    EXPECT_TRUE(comesTrue([&] { return entry() == "5"; }));
+}
+
+}  // namespace
+
+}  // namespace zifferon::test

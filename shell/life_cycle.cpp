@@ -19,7 +19,7 @@ LifeCycle::LifeCycle(Pultform& window, Kopf& kopf, HelpWindow& help, KeyRoad& ke
       undo_(undo),
       modes_(modes),
       machine_(machine),
-      startUp_(window, kopf, record, modes, machine),
+      startUp_(window.state, kopf, record, modes, machine),
       s(window.state) {}
 
 void LifeCycle::start() {

@@ -59,9 +59,9 @@ constexpr TextView damagedLetterhead =
 
 }  // namespace
 
-StartUp::StartUp(Pultform& window, Kopf& kopf, CalculationRecord& record, WindowModes& modes,
+StartUp::StartUp(CalculatorState& state, Kopf& kopf, CalculationRecord& record, WindowModes& modes,
                  Machine& machine)
-    : window_(window), kopf_(kopf), record_(record), modes_(modes), machine_(machine), s(window.state) {}
+    : kopf_(kopf), record_(record), modes_(modes), machine_(machine), s(state) {}
 
 void StartUp::run() {
     checkComponents();

@@ -4,10 +4,10 @@
 #include <optional>
 #include <vector>
 
+#include "core/calculator_state.h"
 #include "platform/key.h"
 #include "platform/machine.h"
 #include "print/kopf.h"
-#include "shell/pultform.h"
 #include "shell/start_windows.h"
 #include "shell/window_modes.h"
 #include "storage/calculation_record.h"
@@ -16,7 +16,8 @@ namespace zifferon {
 
 class StartUp {
   public:
-    StartUp(Pultform& window, Kopf& kopf, CalculationRecord& record, WindowModes& modes, Machine& machine);
+    StartUp(CalculatorState& state, Kopf& kopf, CalculationRecord& record, WindowModes& modes,
+            Machine& machine);
 
     // All steps in their order. A condition that cannot be mended ends the process after its box.
     void run();
@@ -38,7 +39,6 @@ class StartUp {
     void restoreLetterhead();
     void stopDamagedLetterhead();
 
-    Pultform& window_;
     Kopf& kopf_;
     CalculationRecord& record_;
     WindowModes& modes_;

@@ -75,8 +75,8 @@ class PortalSession : public QObject {
         deleteLater();
     }
 
-  private slots:
-    void opened(uint refusal, const QVariantMap& results) {
+  private:
+    Q_SLOT void opened(uint refusal, const QVariantMap& results) {
         const QString path = results.value("session_handle").toString();
         if (refusal != 0 || path.isEmpty()) return deleteLater();
         handle_ = QDBusObjectPath(path);
@@ -86,15 +86,14 @@ class PortalSession : public QObject {
         bind();
     }
 
-    void bound(uint refusal) {
+    Q_SLOT void bound(uint refusal) {
         if (refusal != 0) close();
     }
 
-    void activated(const QDBusObjectPath& session, const QString& id) {
+    Q_SLOT void activated(const QDBusObjectPath& session, const QString& id) {
         if (!unwanted_ && session == handle_ && id == QLatin1String(shortcutId)) pressed_();
     }
 
-  private:
     void bind() {
         const PortalShortcut shortcut{
             shortcutId, {{"description", "Show or hide Zifferon PRO"}, {"preferred_trigger", "CTRL+KP_Add"}}};
@@ -108,7 +107,7 @@ class PortalSession : public QObject {
     // use the path listened to.
     QString listenForAnswer(const char* slot) {
         const QString client = QDBusConnection::sessionBus().baseService().mid(1).replace('.', '_');
-        const QString token = newToken();
+        QString token = newToken();
         listen(QString("%1/request/%2/%3").arg(portalPath, client, token), "org.freedesktop.portal.Request",
                "Response", slot);
         return token;

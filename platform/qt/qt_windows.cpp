@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <QTimer>
 #include <algorithm>
 
 #include "platform/qt/form_view.h"
@@ -41,7 +40,9 @@ FormView* viewOf(const Window& window) {
 }  // namespace
 
 QtWindows::QtWindows(Sound& sound) : sound_(sound) {
-    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &focusWatch_,
+    leave_.setSingleShot(true);
+    leave_.callOnTimeout([this] { leaving_.reset(); });
+    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &leave_,
                      [this](const QWindow* inUse) { endLeaving(inUse); });
 }
 
@@ -53,8 +54,7 @@ void QtWindows::show(Window& window) {
     const bool wasSeen = view->isVisible();
     window.visible = true;
     FormView::refreshAll();
-    // Where there is no window manager, nothing comes into use by itself.
-    QTimer::singleShot(longestLeave, &focusWatch_, [this] { leaving_.reset(); });
+    leave_.start(longestLeave);
     if (!wasSeen) return;
     view->raise();
     view->activateWindow();

@@ -1,7 +1,7 @@
 // The windows of the program beside the main one, each in a view of its own.
 #pragma once
 
-#include <QObject>
+#include <QTimer>
 #include <QWindow>
 #include <memory>
 #include <vector>
@@ -34,7 +34,7 @@ class QtWindows : public Windows {
     Sound& sound_;
     std::vector<std::unique_ptr<Shown>> shown_;
     std::unique_ptr<Shown> leaving_;  // stays until the next window is in use
-    QObject focusWatch_;
+    QTimer leave_;                    // where there is no window manager, nothing comes into use by itself
 };
 
 }  // namespace zifferon

@@ -102,6 +102,7 @@ void Form1::addLine(TextView german, TextView english) {
 
 Form2::Form2(bool english) {
     name = u"Form2";
+    caption = u"Zifferon PRO 5.0";
     framed = false;
     place = {0, 0, 4200, 1350};
     add(Label1, u"Label1");

@@ -47,6 +47,8 @@ QPoint visiblePosition(const QRect& frame) {
             std::max(nearest.top(), std::min(frame.top(), nearest.bottom() + 1 - frame.height()))};
 }
 
+constexpr int longestWait = 300;  // milliseconds
+
 // The window in use; null: none yet, or it was hidden.
 FormView* active = nullptr;
 
@@ -65,6 +67,8 @@ FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
     setWindowFlag(Qt::Dialog, owner != nullptr);
     setWindowFlag(Qt::FramelessWindowHint, !window.framed);
     setMouseTracking(true);
+    activation_.setSingleShot(true);
+    activation_.callOnTimeout([this] { becomeActive(); });
     views_.resize(window.controls().size());
 }
 
@@ -119,13 +123,16 @@ bool FormView::event(QEvent* event) {
     // A box is about to open in the midst of a handler: what the handler has done so far is seen behind it.
     if (event->type() == QEvent::WindowBlocked) refresh();
     if (event->type() == QEvent::WindowActivate) becomeActive();
+    if (event->type() == QEvent::Show) activation_.start(longestWait);
     if (event->type() == QEvent::Hide && active == this) active = nullptr;
     return QWidget::event(event);
 }
 
 // A window becomes the one in use when another of the program's windows was, or when it comes back from being
-// hidden. Neither a box nor another program in between counts.
+// hidden. Neither a box nor another program in between counts. A desktop that keeps the keyboard from a new
+// window does not keep the program from going on.
 void FormView::becomeActive() {
+    activation_.stop();
     if (std::exchange(active, this) != this) run(window_.onActivate);
 }
 

@@ -2,6 +2,7 @@
 // and hands on what the user does. It decides nothing itself.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -67,6 +68,7 @@ class FormView : public QWidget {
     std::vector<std::unique_ptr<ControlView>> views_;  // of each control; none before it is first shown
     TimerViews timers_;
     KeyEvents keyEvents_;
+    QTimer activation_;  // runs from the showing of the window until it is in use
 
     // What the window shows.
     Place place_;

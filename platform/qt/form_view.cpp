@@ -49,6 +49,8 @@ QPoint visiblePosition(const QRect& frame) {
 
 constexpr int longestWait = 300;  // milliseconds
 
+bool onWayland() { return QGuiApplication::platformName() == QStringLiteral("wayland"); }
+
 // The window in use; null: none yet, or it was hidden.
 FormView* active = nullptr;
 
@@ -136,9 +138,14 @@ void FormView::becomeActive() {
     if (std::exchange(active, this) != this) run(window_.onActivate);
 }
 
-// The user minimises and restores it too.
+// The user minimises and restores it too. Wayland tells nobody of it, but a window in use is not minimised.
 void FormView::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::WindowStateChange) window_.minimised = isMinimized();
+    if (event->type() == QEvent::WindowStateChange && !onWayland()) {
+        window_.minimised = minimised_ = isMinimized();
+    }
+    if (event->type() == QEvent::ActivationChange && onWayland() && isActiveWindow()) {
+        window_.minimised = minimised_ = false;
+    }
     QWidget::changeEvent(event);
 }
 
@@ -230,9 +237,10 @@ void FormView::refreshFocus() {
 // some window managers take the keyboard away from it once more, and keys are lost.
 void FormView::refreshShown() {
     const bool shown = window_.visible || (stays_ && isVisible());
-    if (isVisible() == shown && isMinimized() == window_.minimised) return;
+    if (isVisible() == shown && minimised_ == window_.minimised) return;
     const bool comesBack = windowHandle() != nullptr;
     if (comesBack && !isVisible()) move(pos());
+    if (std::exchange(minimised_, window_.minimised) && onWayland()) hide();  // there is no other way back
     setWindowState(window_.minimised ? windowState() | Qt::WindowMinimized
                                      : windowState() & ~Qt::WindowMinimized);
     setVisible(shown);

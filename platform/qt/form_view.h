@@ -75,6 +75,7 @@ class FormView : public QWidget {
     std::optional<Text> caption_;
     std::optional<Colour> backColour_;
     bool alwaysOnTop_ = false;
+    bool minimised_ = false;
     bool stays_ = false;
 };
 

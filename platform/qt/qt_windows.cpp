@@ -68,7 +68,11 @@ void QtWindows::hide(Window& window) {
 void QtWindows::showModal(Window& window) {
     const bool alone = nothingSeen();
     auto shown = std::make_unique<Shown>(window, sound_, alone ? nullptr : QApplication::activeWindow());
-    alone ? shown->view.stay() : shown->view.setWindowModality(Qt::ApplicationModal);
+    if (alone) {
+        shown->view.stay();
+    } else {
+        shown->view.setWindowModality(Qt::ApplicationModal);
+    }
     window.visible = true;
     shown->view.refresh();
     QCoreApplication::processEvents();
@@ -86,11 +90,12 @@ bool QtWindows::nothingSeen() const {
 }
 
 void QtWindows::endLeaving(const QWindow* inUse) {
+    if (!leaving_ || inUse == nullptr) return;
     const std::vector<FormView*> forms = FormView::all();
     const bool next = std::any_of(forms.begin(), forms.end(), [&](const FormView* form) {
-        return form->windowHandle() == inUse && leaving_ && form != &leaving_->view;
+        return form->windowHandle() == inUse && form != &leaving_->view;
     });
-    if (next && inUse != nullptr) leaving_.reset();
+    if (next) leaving_.reset();
 }
 
 }  // namespace zifferon

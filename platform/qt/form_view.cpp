@@ -61,8 +61,7 @@ FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
       window_(window),
       keys_(keys),
       timers_(window, [this](const auto& tick) { run(tick); }),
-      keyEvents_(
-          *this, window, keys, [this](Control& control) { press(control); }, refreshAll),
+      keyEvents_(*this, keys),
       place_{window.place.left, window.place.top, 0, 0} {
     offerTapesToScreenReaders();
     setObjectName(toQString(window.name));
@@ -94,6 +93,7 @@ void FormView::refresh() {
 
 void FormView::run(const std::function<void()>& handler) {
     if (!handler) return;
+    settleActivation();
     keys_.run(handler);
     refreshAll();
 }
@@ -110,6 +110,11 @@ std::vector<FormView*> FormView::all() {
     return forms;
 }
 
+QWidget* FormView::topmost() {
+    if (QWidget* const modal = QApplication::activeModalWidget()) return modal;
+    return active != nullptr && !active->isMinimized() ? active : nullptr;
+}
+
 void FormView::press(Control& control) {
     run([&] {
         if (control.kind == ControlKind::checkBox) {
@@ -124,7 +129,7 @@ void FormView::press(Control& control) {
 bool FormView::event(QEvent* event) {
     // A box is about to open in the midst of a handler: what the handler has done so far is seen behind it.
     if (event->type() == QEvent::WindowBlocked) refresh();
-    if (event->type() == QEvent::WindowActivate) becomeActive();
+    if (event->type() == QEvent::WindowActivate) activation_.start(0);
     if (event->type() == QEvent::Show) activation_.start(longestWait);
     if (event->type() == QEvent::Hide && active == this) active = nullptr;
     return QWidget::event(event);
@@ -132,10 +137,15 @@ bool FormView::event(QEvent* event) {
 
 // A window becomes the one in use when another of the program's windows was, or when it comes back from being
 // hidden. Neither a box nor another program in between counts. A desktop that keeps the keyboard from a new
-// window does not keep the program from going on.
+// window does not keep the program from going on. The toolkit is not in the midst of it any more: a handler
+// may open a box and take other windows away.
 void FormView::becomeActive() {
     activation_.stop();
     if (std::exchange(active, this) != this) run(window_.onActivate);
+}
+
+void FormView::settleActivation() {
+    if (activation_.isActive() && isActiveWindow()) becomeActive();
 }
 
 // The user minimises and restores it too. Wayland tells nobody of it, but a window in use is not minimised.

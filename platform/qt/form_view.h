@@ -36,8 +36,15 @@ class FormView : public QWidget {
     // The forms of the program.
     static std::vector<FormView*> all();
 
+    // That over which a box or another window opens: an open one that lets nothing else be used, else the
+    // form in use. Null where nothing is seen.
+    static QWidget* topmost();
+
     // Runs a handler that is no keystroke, and shows what it did. An empty one does nothing.
     void run(const std::function<void()>& handler);
+
+    // A window that has just come into use learns it before the first key or click that it gets.
+    void settleActivation();
 
     // As refresh, for all windows: a handler may write in any of them.
     static void refreshAll();

@@ -7,7 +7,7 @@
 #include <QWidget>
 #include <utility>
 
-#include "platform/qt/control_view.h"
+#include "platform/qt/form_view.h"
 
 namespace zifferon {
 
@@ -108,9 +108,7 @@ std::optional<Key> keyOf(const QKeyEvent& event) {
     return event.text().size() == 1 ? typedKey(event.text().front()) : std::nullopt;
 }
 
-KeyEvents::KeyEvents(QWidget& form, Window& window, KeyRoad& keys, std::function<void(Control&)> press,
-                     std::function<void()> refresh)
-    : form_(form), window_(window), keys_(keys), press_(std::move(press)), refresh_(std::move(refresh)) {
+KeyEvents::KeyEvents(FormView& form, KeyRoad& keys) : form_(form), keys_(keys) {
     // Only there every key comes by before a widget or a shortcut can take it.
     qApp->installEventFilter(this);
     releaseTimer_.setSingleShot(true);
@@ -122,7 +120,7 @@ bool KeyEvents::eventFilter(QObject* receiver, QEvent* event) {
         held_.clear();
         release_.reset();
         keys_.releaseAll();
-        refresh_();
+        FormView::refreshAll();
         return false;
     }
     auto* const widget = qobject_cast<QWidget*>(receiver);
@@ -151,6 +149,7 @@ bool KeyEvents::eventFilter(QObject* receiver, QEvent* event) {
 }
 
 void KeyEvents::keyPressed(const QKeyEvent& event) {
+    form_.settleActivation();
     settleReleaseBefore(event);
     const quint32 scanCode = event.nativeScanCode();
     // A key that went down in another window repeats here, and stays that window's.
@@ -163,7 +162,7 @@ void KeyEvents::keyPressed(const QKeyEvent& event) {
     }
     if (isPaste(event)) return paste(QGuiApplication::clipboard()->text());
     if (commandModifiers(event) == Qt::AltModifier && event.key() != Qt::Key_Alt) {
-        if (Control* const control = accessControl(event.text())) press_(*control);
+        if (Control* const control = accessControl(event.text())) form_.press(*control);
         return;
     }
     const auto key = keyOf(event);
@@ -172,7 +171,7 @@ void KeyEvents::keyPressed(const QKeyEvent& event) {
     if (held != held_.end() && held->second != *key) letGoOf(scanCode);
     held_[scanCode] = *key;
     keys_.keyDown(*key);
-    refresh_();
+    FormView::refreshAll();
 }
 
 void KeyEvents::keyReleased(const QKeyEvent& event) {
@@ -187,7 +186,7 @@ void KeyEvents::settleRelease() {
     const auto release = std::exchange(release_, std::nullopt);
     if (!release || !held_.contains(release->scanCode)) return;
     letGoOf(release->scanCode);
-    refresh_();
+    FormView::refreshAll();
 }
 
 // A repeating key comes as a release and a press of the same moment. On a busy machine the toolkit may not
@@ -206,17 +205,18 @@ void KeyEvents::letGoOf(quint32 scanCode) {
 }
 
 void KeyEvents::paste(const QString& text) {
-    if (!window_.onPaste) return type(text);
+    if (!form_.window().onPaste) return type(text);
     const std::u16string pasted = text.toStdU16String();
-    type(QString::fromStdU16String(window_.onPaste(pasted)));
+    type(QString::fromStdU16String(form_.window().onPaste(pasted)));
 }
 
 void KeyEvents::type(const QString& text) {
+    form_.settleActivation();
     for (const QChar character : text) {
         if (const auto key = isLineEnd(character) ? keyOfCharacter(13) : typedKey(character))
             keys_.stroke(*key);
     }
-    refresh_();
+    FormView::refreshAll();
 }
 
 // The topmost control that is in use and has the letter behind the "&" of its caption.
@@ -229,7 +229,7 @@ Control* KeyEvents::accessControl(const QString& typed) const {
         return pressable && control->shown() && control->enabled && mark + 1 < control->caption.size() &&
                QChar(control->caption[mark + 1]).toLower() == letter;
     };
-    const auto& controls = window_.controls();
+    const auto& controls = form_.window().controls();
     const auto found = std::find_if(controls.rbegin(), controls.rend(), answers);
     return found == controls.rend() ? nullptr : *found;
 }

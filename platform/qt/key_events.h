@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QObject>
 #include <QTimer>
-#include <functional>
 #include <map>
 #include <optional>
 
@@ -13,16 +12,16 @@
 
 namespace zifferon {
 
+class FormView;
+
 // The key of an event, or nothing where it neither types nor commands: Shift and its like, unknown keys, and
 // all that is pressed together with Ctrl, Alt or Meta but Ctrl+R.
 std::optional<Key> keyOf(const QKeyEvent& event);
 
 class KeyEvents : public QObject {
   public:
-    // Watches `form` from now on. `press` is told the control of an access key, `refresh` runs when something
-    // may have changed.
-    KeyEvents(QWidget& form, Window& window, KeyRoad& keys, std::function<void(Control&)> press,
-              std::function<void()> refresh);
+    // Watches `form` from now on; the form outlives it.
+    KeyEvents(FormView& form, KeyRoad& keys);
 
   private:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -35,11 +34,8 @@ class KeyEvents : public QObject {
     void type(const QString& text);
     Control* accessControl(const QString& typed) const;
 
-    QWidget& form_;
-    Window& window_;
+    FormView& form_;
     KeyRoad& keys_;
-    std::function<void(Control&)> press_;
-    std::function<void()> refresh_;
 
     // Physical keys that are down, by scan code: the key itself may be another one at its release, when Shift
     // was let go first.

@@ -35,7 +35,7 @@ QMessageBox::Icon iconOf(BoxIcon icon) {
 }  // namespace
 
 BoxAnswer QtBoxes::show(const Box& box) {
-    QMessageBox window(QApplication::activeWindow());
+    QMessageBox window(FormView::topmost());
     window.setFont(boxFont());
     window.setWindowTitle(toQString(box.title));
     window.setTextFormat(Qt::PlainText);

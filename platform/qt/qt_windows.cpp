@@ -67,7 +67,7 @@ void QtWindows::hide(Window& window) {
 
 void QtWindows::showModal(Window& window) {
     const bool alone = nothingSeen();
-    auto shown = std::make_unique<Shown>(window, sound_, alone ? nullptr : QApplication::activeWindow());
+    auto shown = std::make_unique<Shown>(window, sound_, alone ? nullptr : FormView::topmost());
     if (alone) {
         shown->view.stay();
     } else {
@@ -95,7 +95,7 @@ void QtWindows::endLeaving(const QWindow* inUse) {
     const bool next = std::any_of(forms.begin(), forms.end(), [&](const FormView* form) {
         return form->windowHandle() == inUse && form != &leaving_->view;
     });
-    if (next) leaving_.reset();
+    if (next) leave_.start(0);  // the toolkit still tells both windows of the change
 }
 
 }  // namespace zifferon

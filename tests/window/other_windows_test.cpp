@@ -18,39 +18,61 @@ void deliver(const char* name, const QByteArray& bytes = {}) {
     file.write(bytes);
 }
 
-// A hundred additions a second through the whole start, from the loading window on into the main one.
-TEST(StartTest, NoKeyIsLostBetweenTheWindows) {
-    const FreshFolder folder;
-    for (const char* name :
-         {"font.zfr", "rattle1.wav", "rattle2.wav", "start.wav", "switch.wav", "switch2.wav", "temp.dat",
-          "trash.wav", "undo.wav", "zifferonpro-help_de.chm", "zifferonpro-help_en.chm", "quicksave.zfr"}) {
-        deliver(name);
+// The whole start, from an empty calculator; the first run is behind it.
+class StartTest : public WindowTest {
+  protected:
+    void SetUp() override {
+        for (const char* name : {"font.zfr", "rattle1.wav", "rattle2.wav", "start.wav", "switch.wav",
+                                 "switch2.wav", "temp.dat", "trash.wav", "undo.wav",
+                                 "zifferonpro-help_de.chm", "zifferonpro-help_en.chm", "quicksave.zfr"}) {
+            deliver(name);
+        }
+        deliver("ntcheck.zfr", QByteArray("\0\0\x80\x3F", 4));
+        deliver("decpoint.dat", QByteArray("\0\0\x80\x3F", 4));
+        QDir().mkdir(QStringLiteral("Temp"));
+        machine.desktop.attachTo(view);
+        hands.setNumLock(true);
     }
-    deliver("ntcheck.zfr", QByteArray("\0\0\x80\x3F", 4));  // the first run is behind it
-    deliver("decpoint.dat", QByteArray("\0\0\x80\x3F", 4));
-    QDir().mkdir(QStringLiteral("Temp"));
-    QtMachine machine;
-    Program program(machine.machine);
-    FormView view(program.pultform, program.keys);
-    machine.desktop.attachTo(view);
 
-    RealInput hands;
-    hands.setNumLock(true);
-    constexpr int additions = 250;
-    int typed = 0;
+    // Types so many times, ten milliseconds apart, from the moment on at which the loading window has the
+    // keyboard.
+    void typeFromTheBeginning(const std::function<void()>& type, int times) {
+        typist.callOnTimeout([this, type, times] {
+            if (typed == 0 && QApplication::activeWindow() == nullptr) return;
+            type();
+            if (++typed == times) typist.stop();
+        });
+        typist.start(10);
+    }
+
     QTimer typist;
-    typist.callOnTimeout([&] {
-        if (typed == 0 && QApplication::activeWindow() == nullptr) return;
-        hands.stroke({keys::keypad7, keys::keypadAdd});
-        if (++typed == additions) typist.stop();
-    });
-    typist.start(10);
+    int typed = 0;
+};
+
+TEST_F(StartTest, NoKeyIsLostBetweenTheWindows) {
+    constexpr int additions = 250;
+    typeFromTheBeginning([&] { hands.stroke({keys::keypad7, keys::keypadAdd}); }, additions);
     program.start();
     EXPECT_GT(typed, 0);
-    const Text& tape = program.pultform.state.anzeige.text();
+    const Text& tape = state().anzeige.text();
     EXPECT_TRUE(comesTrue([&] { return std::count(tape.begin(), tape.end(), u'\n') == additions; }))
         << std::count(tape.begin(), tape.end(), u'\n');
     EXPECT_TRUE(view.isActiveWindow());
+}
+
+TEST_F(StartTest, AKeyTypedAheadOpensItsBoxOverTheMainWindow) {
+    typeFromTheBeginning([&] { hands.stroke({keys::f8}); }, 1);
+    bool answered = false;
+    whenAWindowOpens([&](QWidget& box) {
+        EXPECT_EQ(box.parentWidget(), &view);
+        EXPECT_TRUE(comesTrue([] { return FormView::all().size() == 1; }));  // the loading window is gone
+        hands.stroke({keys::escape});
+        answered = true;
+    });
+    program.start();
+    ASSERT_TRUE(comesTrue([&] { return answered && view.isActiveWindow(); }));
+    hands.stroke({keys::keypad7});
+    EXPECT_TRUE(comesTrue([&] { return entry() == "7"; }));
 }
 
 TEST_F(WindowTest, TheRuledLinesLeaveTheMouseToThePrintCopy) {

@@ -131,7 +131,10 @@ bool FormView::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) refresh();
     if (event->type() == QEvent::WindowActivate) activation_.start(0);
     if (event->type() == QEvent::Show) activation_.start(longestWait);
-    if (event->type() == QEvent::Hide && active == this) active = nullptr;
+    if (event->type() == QEvent::Hide) {
+        activation_.stop();
+        if (active == this) active = nullptr;
+    }
     return QWidget::event(event);
 }
 

@@ -46,7 +46,10 @@ class CommandKeys {
         const bool storePrefix = s.txtop.is(u"M");
         if (is(keyCode::f4) && storePrefix) return desk.calls.askSeparator(), end;
         if (is(keyCode::f3) && storePrefix) switchStoreConfirmation(desk);
-        if (is(keyCode::f12)) return askToQuit(desk), end;
+        if (is(keyCode::f12)) {
+            if (confirmsQuit(desk.boxes, s, desk.window.caption)) desk.calls.quit();
+            return end;
+        }
         return goOn;
     }
 

@@ -18,9 +18,9 @@ struct CommandCalls {
     std::function<void()> printTape;  // after the question has been answered Yes
     std::function<void()> nextWindowMode;
     std::function<void()> nextTextColours, nextBackColours, standardColours;
-    std::function<void()> writeFormatMode;  // stores formatMode
+    std::function<bool()> writeFormatMode;  // stores formatMode; whether it is stored
     std::function<void()> askSeparator;     // the question for comma or point, and what follows from it
-    std::function<void(bool minimised)> writeStartOptions;
+    std::function<bool(bool minimised)> writeStartOptions;  // whether they are stored
 };
 
 struct CommandDesk {

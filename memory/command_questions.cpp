@@ -6,13 +6,10 @@ namespace zifferon {
 
 namespace {
 
-constexpr TextView programTitle = u"Zifferon PRO 5.0";
-
 BoxAnswer show(CommandDesk& desk, BoxIcon icon, BoxButtons buttons, TextView german, TextView english,
                bool noIsDefault = false) {
     return desk.boxes.show({.icon = icon,
                             .buttons = buttons,
-                            .title = Text(programTitle),
                             .text = Text(desk.state.inLanguage(german, english)),
                             .english = desk.state.languageEnglish,
                             .noIsDefault = noIsDefault});
@@ -44,9 +41,9 @@ void askNumberFormat(CommandDesk& desk) {
     const BoxAnswer answer = show(desk, BoxIcon::question, BoxButtons::yesNoCancel, german, english);
     if (answer == BoxAnswer::cancel) return;
     s.formatMode = answer == BoxAnswer::yes ? 1 : 2;
-    desk.calls.writeFormatMode();
+    const bool saved = desk.calls.writeFormatMode();
     applyFormatMode(s);
-    informSaved(desk);
+    if (saved) informSaved(desk);
 }
 
 void switchStoreConfirmation(CommandDesk& desk) {
@@ -63,15 +60,13 @@ void switchStoreConfirmation(CommandDesk& desk) {
     s.txtop.setText(u"");
 }
 
-void askToQuit(CommandDesk& desk) {
-    const BoxAnswer answer =
-        desk.boxes.show({.icon = BoxIcon::question,
-                         .buttons = BoxButtons::yesNo,
-                         .title = desk.window.caption,
-                         .text = Text(desk.state.inLanguage(u"Möchten Sie Zifferon PRO wirklich beenden?   ",
-                                                            u"Do you really want to quit Zifferon PRO?   ")),
-                         .english = desk.state.languageEnglish});
-    if (answer == BoxAnswer::yes) desk.calls.quit();
+bool confirmsQuit(Boxes& boxes, const CalculatorState& state, TextView title) {
+    return boxes.show({.icon = BoxIcon::question,
+                       .buttons = BoxButtons::yesNo,
+                       .title = Text(title),
+                       .text = Text(state.inLanguage(u"Möchten Sie Zifferon PRO wirklich beenden?   ",
+                                                     u"Do you really want to quit Zifferon PRO?   ")),
+                       .english = state.languageEnglish}) == BoxAnswer::yes;
 }
 
 void showNoTaxRate(CommandDesk& desk) {
@@ -106,9 +101,9 @@ void askStartOptions(CommandDesk& desk) {
                    true)) {
         return;
     }
-    desk.calls.writeStartOptions(confirmed(desk, u"Soll Zifferon PRO künftig minimiert gestartet werden?",
-                                           u"Do you want Zifferon PRO to be started minimized?   ", true));
-    informSaved(desk);
+    const bool minimised = confirmed(desk, u"Soll Zifferon PRO künftig minimiert gestartet werden?",
+                                     u"Do you want Zifferon PRO to be started minimized?   ", true);
+    if (desk.calls.writeStartOptions(minimised)) informSaved(desk);
 }
 
 void askStandardColours(CommandDesk& desk) {

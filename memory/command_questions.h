@@ -7,7 +7,10 @@ namespace zifferon {
 
 void askNumberFormat(CommandDesk& desk);
 void switchStoreConfirmation(CommandDesk& desk);
-void askToQuit(CommandDesk& desk);
+
+// The question before every end that the user asks for; whether the answer was Yes. `title` is the window's.
+bool confirmsQuit(Boxes& boxes, const CalculatorState& state, TextView title);
+
 void showNoTaxRate(CommandDesk& desk);
 void askToPrint(CommandDesk& desk);
 void askStartOptions(CommandDesk& desk);

@@ -120,7 +120,6 @@ void MemoryPanel::storeFirstFree(const Text& value, TextView germanWarning) {
     }
     machine_.boxes.show(
         {.icon = BoxIcon::warning,
-         .title = u"Zifferon PRO 5.0",
          .text = Text(s.inLanguage(germanWarning, u"Error while saving. No memory available!  ")),
          .english = s.languageEnglish});
 }

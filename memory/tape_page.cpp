@@ -118,7 +118,6 @@ void TapePage::selectNextCharacter() {
 
 void TapePage::tellInserting() {
     boxes_.show({.icon = BoxIcon::information,
-                 .title = u"Zifferon PRO 5.0",
                  .text = Text(s.inLanguage(u"Einfügemodus aktiv!   ", u"Insert mode activated!   ")),
                  .english = s.languageEnglish});
     window_.setFocus(s.superdruck);

@@ -44,17 +44,27 @@ void Undo::writeSnapshotFile() {
     gatherRecord(record_);
     gatherSwitches(record_);
     try {
-        writeRecord(machine_.files, fileOf(s.undoCounter), record_);
+        writeIntoFolder();
     } catch (const FileFailure&) {
         machine_.boxes.show(
             {.icon = BoxIcon::critical,
-             .title = u"Zifferon PRO 5.0",
              .text = Text(s.inLanguage(u"Zu wenig Arbeitsspeicher zur Auslagerung der temporären   \r\n"
                                        u"Daten vorhanden. Löschen Sie nicht benötigte Dateien von   \r\n"
                                        u"Ihrer Festplatte. Zifferon PRO wird beendet!",
                                        u"Your harddrive is out of memory! Zifferon will be shut down!   ")),
              .english = s.languageEnglish});
         machine_.process.end();
+    }
+}
+
+// The folder may have been lost, as when the program folder was copied without its empty ones.
+void Undo::writeIntoFolder() {
+    try {
+        writeRecord(machine_.files, fileOf(s.undoCounter), record_);
+    } catch (const FileFailure& failure) {
+        if (failure.trouble() != FileTrouble::missing) throw;
+        machine_.files.createFolder(folder);
+        writeRecord(machine_.files, fileOf(s.undoCounter), record_);
     }
 }
 

@@ -22,7 +22,7 @@ class Undo {
     // Removes all snapshots.
     void emptyFolder();
 
-    // The first state of a run: the numbers begin at 0, and snapshot 0 is written.
+    // The first state of a run: the numbers begin at 0, and snapshot 0 is written, as below.
     void begin();
 
     // The snapshot point at the end of a key release.
@@ -44,6 +44,7 @@ class Undo {
     void restoreCells();
 
   private:
+    void writeIntoFolder();
     void showInactive();
     void showUnreadable();
     void stepBack();

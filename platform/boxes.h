@@ -9,10 +9,12 @@ enum class BoxIcon { none, information, question, warning, critical };
 enum class BoxButtons { ok, yesNo, yesNoCancel };
 enum class BoxAnswer { ok = 1, cancel = 2, yes = 6, no = 7, german, english };
 
+constexpr TextView programTitle = u"Zifferon PRO 5.0";
+
 struct Box {
     BoxIcon icon = BoxIcon::none;
     BoxButtons buttons = BoxButtons::ok;
-    Text title;
+    Text title = Text(programTitle);
     Text text;
     bool english = false;      // language of the buttons
     bool noIsDefault = false;  // the default button is No instead of the first

@@ -35,10 +35,16 @@ class Windows {
     virtual void show(Window& window) = 0;
     virtual void hide(Window& window) = 0;
 
+    // Hides all windows and boxes: nothing that they asked or showed matters any more.
+    virtual void hideAll() = 0;
+
     // Shows the window, tells it by onActivate, and returns when it is no longer visible. No other window
-    // takes keys or the mouse meanwhile. The only window of the program stays on the screen, and takes keys,
-    // until the next one is in use, and must live until then: keys must not fall between the two.
+    // takes keys or the mouse meanwhile.
     virtual void showModal(Window& window) = 0;
+
+    // The same for a window that comes before the main one. It stays on the screen, and takes keys, until the
+    // next one is in use, and must live until then: keys must not fall between the two.
+    virtual void showBefore(Window& window) = 0;
 };
 
 class Process {

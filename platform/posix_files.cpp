@@ -85,6 +85,25 @@ void writeAll(const Descriptor& file, std::span<const std::string_view> pieces) 
     }
 }
 
+off_t sizeOf(const Descriptor& file) {
+    struct stat status;
+    checked([&] { return ::fstat(file.number(), &status); });
+    return status.st_size;
+}
+
+// Gets the room for what is longer than the file before the first of its bytes is overwritten. A new file has
+// nothing to lose.
+void reserve(const Descriptor& file, std::span<const std::string_view> pieces) {
+    const off_t size = sizeOf(file);
+    off_t wanted = 0;
+    for (const std::string_view piece : pieces) wanted += static_cast<off_t>(piece.size());
+    if (size == 0 || wanted <= size) return;
+    const int error = ::posix_fallocate(file.number(), size, wanted - size);
+    if (troubleOf(error) != FileTrouble::noSpace) return;  // not every file system can tell beforehand
+    checked([&] { return ::ftruncate(file.number(), size); });
+    throw FileFailure(FileTrouble::noSpace);
+}
+
 struct FolderCloser {
     void operator()(DIR* folder) const { ::closedir(folder); }
 };
@@ -124,8 +143,9 @@ void Descriptor::close() {
     if (::close(release()) != 0 && errno != EINTR) fail();  // interrupted, it is closed all the same
 }
 
+// The folder need not be readable itself. One that cannot be entered has no files.
 PosixFiles::PosixFiles(const std::string& programFolder)
-    : folder_(checked([&] { return ::open(programFolder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); })) {}
+    : folder_(::open(programFolder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
 
 bool PosixFiles::FileExists(std::string_view name) {
     const std::string file(trimmed(name));
@@ -146,6 +166,7 @@ FileContent PosixFiles::readOrCreate(const std::string& name) {
 
 void PosixFiles::write(const std::string& name, std::span<const std::string_view> pieces) {
     Descriptor file(open(name, O_WRONLY | O_CREAT));
+    reserve(file, pieces);
     writeAll(file, pieces);
     file.close();
 }

@@ -28,7 +28,7 @@ class Descriptor {
 class PosixFiles : public Files {
   public:
     // Holds on to the program folder itself, whatever it is renamed to and wherever the current folder goes.
-    // Throws FileFailure where it cannot be opened.
+    // Never fails: a folder that is not there or cannot be entered has no files.
     explicit PosixFiles(const std::string& programFolder = ".");
 
     using Files::write;

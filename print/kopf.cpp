@@ -20,7 +20,7 @@ Text blanks(std::size_t count) { return Text(count, u' '); }
 
 Kopf::Kopf() {
     name = u"kopf";
-    caption = u"Zifferon PRO 5.0";
+    caption = programTitle;
     framed = false;  // a frame would have a close box
     place = {0, 0, 9000, 8000};
     onDismiss = [] {};

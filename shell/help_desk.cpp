@@ -65,7 +65,6 @@ void HelpDesk::changeLanguage(bool english) {
     s.languageEnglish = english;
     changeCaptions(window_, kopf_, english);
     machine_.boxes.show({.icon = BoxIcon::information,
-                         .title = u"Zifferon PRO 5.0",
                          .text = Text(s.inLanguage(u"Die Spracheinstellung wurde auf Deutsch geändert.   ",
                                                    u"The language has been set to English.   ")),
                          .english = english});

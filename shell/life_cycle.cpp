@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/number_format.h"
+#include "memory/command_questions.h"
 #include "shell/colour_schemes.h"
 #include "shell/language.h"
 #include "shell/settings_files.h"
@@ -37,19 +38,19 @@ void LifeCycle::show() {
     window_.onDismiss = [this] { hideInTray(); };
     window_.onActivate = [this] { activated(); };
     machine_.windows.show(window_);
-    window_.setFocus(s.eingabe);
-    s.focusDeferred = false;
 }
 
 void LifeCycle::activated() {
     s.messageTicks = 0;
     if (s.checkrnd.caption.empty()) s.checkrnd.caption = u"&RND 2";
-    window_.caption = u"Zifferon PRO 5.0";
+    window_.caption = programTitle;
     window_.stripes.hide();
     if (!std::exchange(firstActivateDone_, true)) firstActivation();
 }
 
 void LifeCycle::firstActivation() {
+    window_.setFocus(s.eingabe);
+    s.focusDeferred = false;
     queueLayoutCycle();
     undo_.emptyFolder();
     StartOptions options;
@@ -90,7 +91,7 @@ void LifeCycle::beginSnapshots(const StartOptions& options) {
     if (options.windowMode == 1) modes_.restoreNarrow();
     if (options.minimised) {
         hideInTray();
-        layoutCyclePending_ = true;
+        layoutCyclePending_ = inTray_;
     }
     undo_.begin();
     window_.placeTexterror();
@@ -115,11 +116,14 @@ void LifeCycle::hideInTray() {
     inTray_ = true;
 }
 
+// A window that the user has minimised comes back where it was.
 void LifeCycle::showFromTray() {
-    window_.minimised = false;
+    const bool wasMinimised = std::exchange(window_.minimised, false);
     machine_.windows.show(window_);
-    window_.place.left = trayRestore_.left;
-    window_.place.top = trayRestore_.top;
+    if (!wasMinimised) {
+        window_.place.left = trayRestore_.left;
+        window_.place.top = trayRestore_.top;
+    }
     inTray_ = false;
     if (layoutCyclePending_) window_.minitimer.start(1);
 }
@@ -141,19 +145,14 @@ void LifeCycle::hotKeyPressed() {
 }
 
 void LifeCycle::askToExit() {
-    const BoxAnswer answer =
-        machine_.boxes.show({.icon = BoxIcon::question,
-                             .buttons = BoxButtons::yesNo,
-                             .title = window_.caption,
-                             .text = Text(s.inLanguage(u"Möchten Sie Zifferon PRO wirklich beenden?   ",
-                                                       u"Do you really want to quit Zifferon PRO?   ")),
-                             .english = s.languageEnglish});
-    if (answer != BoxAnswer::yes) return;
+    if (!confirmsQuit(machine_.boxes, s, window_.caption)) return;
     machine_.desktop.removeTrayIcon();
     quit(pauseAfterTray);
 }
 
+// The session may end while the goodbye is said.
 void LifeCycle::quit(int pause) {
+    if (std::exchange(quitting_, true)) return;
     unload();
     machine_.clipboard.clear();
     sayGoodbye(pause);
@@ -164,8 +163,7 @@ void LifeCycle::unload() {
     machine_.desktop.unregisterHotKey();
     machine_.desktop.removeTrayIcon();
     hideInTray();
-    machine_.windows.hide(window_);
-    machine_.windows.hide(help_);
+    machine_.windows.hideAll();
     machine_.desktop.removeTrayIcon();
     if (s.undoActive) undo_.emptyFolder();
 }

@@ -63,6 +63,7 @@ class LifeCycle {
     bool firstActivateDone_ = false;
     bool inTray_ = false;
     bool layoutCyclePending_ = false;
+    bool quitting_ = false;
     Place trayRestore_;
     std::unique_ptr<Form2> goodbye_;
 };

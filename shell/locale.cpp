@@ -104,13 +104,13 @@ DecimalSeparator separatorOfLocale(std::string_view code) {
 }
 
 void settleSeparator(CalculatorState& state, Files& files, Boxes& boxes) {
-    const float choice = readSingle(files, settingsFile::decimalSeparator);
+    const float choice = readSetting(files, settingsFile::decimalSeparator);
     if (choice == commaChoice || choice == pointChoice) return take(state, choice);
     ask(state, files, boxes, state.inLanguage(germanOpeningAtStart, englishOpeningAtStart));
 }
 
 void askSeparator(CalculatorState& state, Files& files, Boxes& boxes) {
-    state.languageEnglish = readSingle(files, settingsFile::language) == 1;
+    state.languageEnglish = readsEnglish(files);
     ask(state, files, boxes, state.inLanguage(germanOpeningInRun, englishOpeningInRun));
 }
 

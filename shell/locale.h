@@ -17,11 +17,11 @@ enum class DecimalSeparator { comma, point, unknown };
 DecimalSeparator separatorOfLocale(std::string_view code);
 
 // Settles decimalPointStyle for a locale that is unknown: by decpoint.dat, or by a question whose answer is
-// stored there. Throws FileFailure; the style is set when only the storing failed.
+// stored there. Throws FileFailure where the answer cannot be stored; it holds all the same.
 void settleSeparator(CalculatorState& state, Files& files, Boxes& boxes);
 
 // Asks for the separator during the run, in the language of language.dat. The answer holds at once and is
-// stored in decpoint.dat. Throws FileFailure; the style is set when only the storing failed.
+// stored in decpoint.dat. Throws FileFailure where it cannot be stored; it holds all the same.
 void askSeparator(CalculatorState& state, Files& files, Boxes& boxes);
 
 // Whether the desktop's window frames need the taller layouts.

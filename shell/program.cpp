@@ -12,6 +12,7 @@
 #include "shell/pasted_text.h"
 #include "shell/send_keys.h"
 #include "shell/settings_files.h"
+#include "shell/write_protection.h"
 
 namespace zifferon {
 
@@ -113,12 +114,12 @@ void Program::wireCommands() {
         stepBackColours(standardBackScheme);
         stepTextColours(standardTextScheme);
     };
-    calls.writeFormatMode = [this, &s] { store(settingsFile::format, s.formatMode); };
+    calls.writeFormatMode = [this, &s] { return store(settingsFile::format, s.formatMode); };
     calls.askSeparator = [this, &s] {
         storing(settingsFile::decimalSeparator, [&] { askSeparator(s, machine_.files, machine_.boxes); });
     };
     calls.writeStartOptions = [this, &s](bool minimised) {
-        storing("winstate.dat", [&] {
+        return storing("winstate.dat", [&] {
             writeStartOptions(machine_.files,
                               {.position = StartOptions::Position{pultform.place.left, pultform.place.top},
                                .windowMode = s.windowMode,
@@ -139,8 +140,8 @@ void Program::stepBackColours(int scheme) {
     applyBackScheme(pultform, help, scheme);
 }
 
-void Program::store(const std::string& file, float value) {
-    storing(file, [&] { writeSingle(machine_.files, file, value); });
+bool Program::store(const std::string& file, float value) {
+    return storing(file, [&] { writeSingle(machine_.files, file, value); });
 }
 
 AlwaysOnTopFile Program::alwaysOnTopFile() {
@@ -159,18 +160,13 @@ AlwaysOnTopFile Program::alwaysOnTopFile() {
 }
 
 // A setting that cannot be written holds for the run, and a box names the file.
-void Program::storing(const std::string& file, const std::function<void()>& write) {
+bool Program::storing(const std::string& file, const std::function<void()>& write) {
     try {
         write();
+        return true;
     } catch (const FileFailure&) {
-        const CalculatorState& s = pultform.state;
-        machine_.boxes.show(
-            {.icon = BoxIcon::warning,
-             .title = u"Zifferon PRO 5.0",
-             .text =
-                 fromUtf8(file) + Text(s.inLanguage(u": Die Einstellung konnte nicht gespeichert werden.   ",
-                                                    u": The setting could not be saved.   ")),
-             .english = s.languageEnglish});
+        tellUnsaved(machine_.boxes, file, pultform.state.languageEnglish);
+        return false;
     }
 }
 

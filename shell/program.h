@@ -50,8 +50,10 @@ class Program {
     void publishSubtotal();
     void showNothingToUndo();
     AlwaysOnTopFile alwaysOnTopFile();
-    void store(const std::string& file, float value);
-    void storing(const std::string& file, const std::function<void()>& write);
+
+    // Whether the setting is written; if not, a box has told it.
+    bool store(const std::string& file, float value);
+    bool storing(const std::string& file, const std::function<void()>& write);
     void stepTextColours(int scheme);
     void stepBackColours(int scheme);
 

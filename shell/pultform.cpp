@@ -6,7 +6,7 @@ namespace zifferon {
 
 Pultform::Pultform() {
     name = u"Pultform";
-    caption = u"Zifferon PRO 5.0";
+    caption = programTitle;
     place = {0, 0, 8205, 8085};
     CalculatorState& s = state;
     add(Picture1, u"Picture1");

@@ -55,6 +55,13 @@ class NumberReader {
     RecordReader reader_;
 };
 
+// In a damaged file there may be sizes that leave nothing to be seen of the window in one of its modes.
+bool holdsTheDesk(const StoredSizes& sizes) {
+    constexpr int smallest = 5700, lowest = 7500, largest = 30000;  // twips
+    return sizes.width >= smallest && sizes.width <= largest && sizes.height >= lowest &&
+           sizes.height <= largest;
+}
+
 CalcValue integer16(int value) { return CalcValue(CalcValue::Value(static_cast<std::int16_t>(value))); }
 
 }  // namespace
@@ -110,7 +117,7 @@ StoredSizes readStoredSizes(Files& files) {
     sizes.active = numbers.single();
     sizes.width = numbers.twips().value_or(0);
     sizes.height = numbers.twips().value_or(0);
-    return sizes;
+    return holdsTheDesk(sizes) ? sizes : StoredSizes();
 }
 
 void writeStoredSizes(Files& files, const StoredSizes& sizes) {

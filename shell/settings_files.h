@@ -51,7 +51,7 @@ StartOptions readStartOptions(Files& files);
 void writeStartOptions(Files& files, const StartOptions& options);
 
 // style.dat: the window's size on systems that need one stored. 12 bytes: a single, and width and height in
-// twips as tagged 16-bit integers.
+// twips as tagged 16-bit integers. Sizes that the window cannot have read as none.
 struct StoredSizes {
     float active = 0;  // 0: the layouts have their own sizes
     int width = 0, height = 0;

@@ -12,8 +12,6 @@ namespace zifferon {
 
 namespace {
 
-constexpr TextView programTitle = u"Zifferon PRO 5.0";
-
 // The pauses of the loading window, in milliseconds.
 constexpr int beforeCells = 200, behindCell = 30, behindCells = 1000;
 
@@ -83,8 +81,7 @@ void StartUp::checkComponents() {
     const bool complete = std::all_of(requiredFiles.begin(), requiredFiles.end(),
                                       [&](const char* name) { return machine_.files.FileExists(name); });
     if (complete) return;
-    machine_.boxes.show(
-        {.icon = BoxIcon::critical, .title = Text(programTitle), .text = Text(missingComponents)});
+    machine_.boxes.show({.icon = BoxIcon::critical, .text = Text(missingComponents)});
     machine_.process.end();
 }
 
@@ -114,7 +111,7 @@ void StartUp::readLocale() {
 }
 
 void StartUp::firstRun() {
-    machine_.windows.showModal(form3_);
+    machine_.windows.showBefore(form3_);
     if (form3_.choice() == Form3::Choice::none) machine_.process.end();  // the next start asks again
     const bool inEnglish = form3_.choice() == Form3::Choice::english;
     try {
@@ -139,7 +136,7 @@ void StartUp::settleUnknownSeparator() {
     try {
         settleSeparator(s, machine_.files, machine_.boxes);
     } catch (const FileFailure&) {
-        // The answer holds for this run.
+        tellUnsaved(machine_.boxes, settingsFile::decimalSeparator, s.languageEnglish);
     }
 }
 
@@ -168,7 +165,7 @@ void StartUp::showLoadingWindow() {
         machine_.process.pause(behindCells);
         form1.visible = false;
     };
-    machine_.windows.showModal(form1);
+    machine_.windows.showBefore(form1);
 }
 
 void StartUp::restoreState() {
@@ -181,7 +178,7 @@ void StartUp::restoreState() {
         // Told below.
     }
     machine_.boxes.show({.icon = BoxIcon::warning,
-                         .title = Text(programTitle),
+
                          .text = Text(s.inLanguage(
                              u"quicksave.zfr: Die gespeicherte Rechnung konnte nicht gelesen werden.   ",
                              u"quicksave.zfr: The stored calculation could not be read.   ")),
@@ -213,8 +210,7 @@ void StartUp::restoreLetterhead() {
 
 // Told in German, whatever the language.
 void StartUp::stopDamagedLetterhead() {
-    machine_.boxes.show(
-        {.icon = BoxIcon::critical, .title = Text(programTitle), .text = Text(damagedLetterhead)});
+    machine_.boxes.show({.icon = BoxIcon::critical, .text = Text(damagedLetterhead)});
     machine_.process.end();
 }
 

@@ -78,7 +78,11 @@ Form1::Form1(bool english) : english_(english) {
     load.multiLine = true;
     load.locked = true;
     load.takesFocus = true;
-    load.onKeyDown = [this](int& code) { typedAhead_.push_back({std::exchange(code, 0)}); };
+    // Alt alone says nothing without the letter that it was pressed for.
+    load.onKeyDown = [this](int& code) {
+        if (code != keyCode::alt) typedAhead_.push_back({code});
+        code = 0;
+    };
     load.onKeyPress = [this](char16_t& character) {
         typedAhead_.back().character = std::exchange(character, u'\0');
     };
@@ -102,7 +106,7 @@ void Form1::addLine(TextView german, TextView english) {
 
 Form2::Form2(bool english) {
     name = u"Form2";
-    caption = u"Zifferon PRO 5.0";
+    caption = programTitle;
     framed = false;
     place = {0, 0, 4200, 1350};
     add(Label1, u"Label1");

@@ -52,7 +52,7 @@ void WindowModes::layOutFull() {
     window_.place.height = fullHeight + heightCorrection(false);
     window_.state.anzeige.visible = true;
     showSidePanel(true);
-    enableEdit(true);
+    window_.page.edit.enabled = true;
     placeEntryBlock(false);
     window_.Command3.visible = false;
 }
@@ -62,7 +62,7 @@ void WindowModes::layOutNarrow() {
     if (sizes_.active != 0) window_.place.height = sizes_.height;
     window_.state.anzeige.visible = true;
     showSidePanel(false);
-    enableEdit(false);
+    window_.page.edit.enabled = false;
     moveTo(window_.Command3, 4995, 6995);
 }
 
@@ -71,17 +71,13 @@ void WindowModes::layOutStrip() {
     window_.place.height = stripHeight + heightCorrection(true);
     window_.state.anzeige.visible = false;
     showSidePanel(true);  // it lies outside the strip
-    enableEdit(false);
+    window_.page.edit.enabled = false;
     placeEntryBlock(true);
     window_.Command3.visible = false;
 }
 
 void WindowModes::showSidePanel(bool visible) {
     window_.Picture1.visible = window_.Frame2.visible = window_.Frame3.visible = visible;
-}
-
-void WindowModes::enableEdit(bool enabled) {
-    if (Control* const edit = window_.find(u"edit")) edit->enabled = enabled;
 }
 
 void WindowModes::placeEntryBlock(bool strip) {

@@ -32,7 +32,6 @@ class WindowModes {
     void layOutNarrow();
     void layOutStrip();
     void showSidePanel(bool visible);
-    void enableEdit(bool enabled);
     void placeEntryBlock(bool strip);
     int heightCorrection(bool toStrip) const;
 

@@ -15,11 +15,17 @@ constexpr TextView english =
 }  // namespace
 
 void stopWriteProtected(Machine& machine, bool inEnglish) {
-    machine.boxes.show({.icon = BoxIcon::critical,
-                        .title = u"Zifferon PRO 5.0",
-                        .text = Text(inEnglish ? english : german),
-                        .english = inEnglish});
+    machine.boxes.show(
+        {.icon = BoxIcon::critical, .text = Text(inEnglish ? english : german), .english = inEnglish});
     machine.process.end();
+}
+
+void tellUnsaved(Boxes& boxes, const std::string& file, bool inEnglish) {
+    boxes.show(
+        {.icon = BoxIcon::warning,
+         .text = fromUtf8(file) + (inEnglish ? u": The setting could not be saved.   "
+                                             : u": Die Einstellung konnte nicht gespeichert werden.   "),
+         .english = inEnglish});
 }
 
 }  // namespace zifferon

@@ -1,5 +1,7 @@
-// The end of the process where its folder cannot be written.
+// What is said where the program folder cannot be written.
 #pragma once
+
+#include <string>
 
 #include "platform/machine.h"
 
@@ -7,5 +9,8 @@ namespace zifferon {
 
 // Says so in one box, and ends the process.
 void stopWriteProtected(Machine& machine, bool english);
+
+// Names the settings file that could not be written; the program goes on.
+void tellUnsaved(Boxes& boxes, const std::string& file, bool english);
 
 }  // namespace zifferon

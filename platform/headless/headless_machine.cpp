@@ -83,6 +83,7 @@ std::string quoted(TextView text) {
 
 void HeadlessMachine::beginAnew() {
     due_.clear();
+    shown_.clear();
     trayIcon_ = false;
     onHotKey = onTrayDoubleClick = onTrayShow = onTrayExit = onSessionEnd = nullptr;
     clipboard_.clear();
@@ -142,17 +143,25 @@ void HeadlessMachine::showModal(Window& window) {
         const InModal inModal(modals_, {&window, &keys});
         whileModal(window);
     }
+    std::erase(shown_, &window);
     tellOf(window, "hidden");
 }
 
 void HeadlessMachine::show(Window& window) {
     if (std::exchange(window.visible, true)) return;
+    shown_.push_back(&window);
     tellOf(window, "shown");
     if (window.onActivate) window.onActivate();
 }
 
 void HeadlessMachine::hide(Window& window) {
-    if (std::exchange(window.visible, false)) tellOf(window, "hidden");
+    if (!std::exchange(window.visible, false)) return;
+    std::erase(shown_, &window);
+    tellOf(window, "hidden");
+}
+
+void HeadlessMachine::hideAll() {
+    for (Window* const window : std::vector(shown_)) hide(*window);
 }
 
 void HeadlessMachine::tellOf(const Window& window, const char* what) {

@@ -57,7 +57,9 @@ class HeadlessMachine : public Boxes,
     void play(const std::string& fileName) override;
     void show(Window& window) override;
     void hide(Window& window) override;
+    void hideAll() override;
     void showModal(Window& window) override;
+    void showBefore(Window& window) override { showModal(window); }
     void pause(int) override {}  // time passes by wait alone
     bool hasTray() override { return true; }
     void addTrayIcon() override;
@@ -85,6 +87,7 @@ class HeadlessMachine : public Boxes,
     bool trayIcon_ = false;
     std::int64_t now_ = 0;  // milliseconds
     std::unordered_map<const Timer*, Due> due_;
+    std::vector<Window*> shown_;
     std::vector<InUse> modals_;  // each above those before it
 };
 

@@ -69,7 +69,7 @@ FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
     setWindowFlag(Qt::FramelessWindowHint, !window.framed);
     setMouseTracking(true);
     activation_.setSingleShot(true);
-    activation_.callOnTimeout([this] { becomeActive(); });
+    activation_.callOnTimeout([this] { activationDue(); });
     views_.resize(window.controls().size());
 }
 
@@ -145,6 +145,16 @@ bool FormView::event(QEvent* event) {
 void FormView::becomeActive() {
     activation_.stop();
     if (std::exchange(active, this) != this) run(window_.onActivate);
+}
+
+// While a window that came before has the keyboard, what is typed there comes first.
+void FormView::activationDue() {
+    const std::vector<FormView*> forms = all();
+    const bool waits = std::any_of(forms.begin(), forms.end(), [this](const FormView* form) {
+        return form != this && form->stays_ && form->isActiveWindow();
+    });
+    if (waits) return activation_.start(longestWait);
+    becomeActive();
 }
 
 void FormView::settleActivation() {

@@ -61,6 +61,7 @@ class FormView : public QWidget {
     void moveEvent(QMoveEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void activationDue();
     void becomeActive();
     void refreshFrame();
     void refreshPlace();

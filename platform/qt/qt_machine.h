@@ -36,7 +36,7 @@ class QtProcess : public Process {
     void pause(int milliseconds) override;
 };
 
-// The current folder becomes the program folder; throws FileFailure where it cannot be opened.
+// The current folder becomes the program folder.
 class QtMachine {
     QtBoxes boxes_;
     QtClipboard clipboard_;

@@ -28,7 +28,7 @@ struct QtWindows::Shown {
 
 namespace {
 
-constexpr int longestLeave = 1000;  // milliseconds
+constexpr int longestLeave = 3000;  // milliseconds
 
 FormView* viewOf(const Window& window) {
     const std::vector<FormView*> forms = FormView::all();
@@ -65,28 +65,34 @@ void QtWindows::hide(Window& window) {
     FormView::refreshAll();
 }
 
+void QtWindows::hideAll() {
+    for (FormView* form : FormView::all()) form->window().visible = false;
+    FormView::refreshAll();
+    for (QWidget* widget : QApplication::topLevelWidgets()) widget->hide();
+}
+
 void QtWindows::showModal(Window& window) {
-    const bool alone = nothingSeen();
-    auto shown = std::make_unique<Shown>(window, sound_, alone ? nullptr : FormView::topmost());
-    if (alone) {
-        shown->view.stay();
-    } else {
-        shown->view.setWindowModality(Qt::ApplicationModal);
-    }
+    Shown shown(window, sound_, FormView::topmost());
+    shown.view.setWindowModality(Qt::ApplicationModal);
+    runUntilHidden(shown.view);
+}
+
+void QtWindows::showBefore(Window& window) {
+    auto shown = std::make_unique<Shown>(window, sound_, nullptr);
+    shown->view.stay();
+    leave_.start(longestLeave);
+    runUntilHidden(shown->view);
+    leaving_ = std::move(shown);
+}
+
+void QtWindows::runUntilHidden(FormView& view) {
+    Window& window = view.window();
     window.visible = true;
-    shown->view.refresh();
+    view.refresh();
     QCoreApplication::processEvents();
     // While the screen puts the window up, those that come later get ready.
     for (FormView* form : FormView::all()) form->prepare();
     while (window.visible) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    if (alone) leaving_ = std::move(shown);
-}
-
-bool QtWindows::nothingSeen() const {
-    const std::vector<FormView*> forms = FormView::all();
-    return std::none_of(forms.begin(), forms.end(), [this](const FormView* form) {
-        return form->isVisible() && !(leaving_ && form == &leaving_->view);
-    });
 }
 
 void QtWindows::endLeaving(const QWindow* inUse) {

@@ -21,14 +21,17 @@ class QtWindows : public Windows {
     void show(Window& window) override;
     void hide(Window& window) override;
 
+    void hideAll() override;
+
     // With a nested event loop; in the middle of the window in use, or of the screen.
     void showModal(Window& window) override;
+    void showBefore(Window& window) override;
 
   private:
     // A window with keys of its own, and its view.
     struct Shown;
 
-    bool nothingSeen() const;
+    static void runUntilHidden(FormView& view);
     void endLeaving(const QWindow* inUse);
 
     Sound& sound_;

@@ -34,7 +34,15 @@ void SoundPlayer::prepare() {
     // However this program ends, its last sound ends with it.
     process_->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
     QObject::connect(process_.get(), &QProcess::finished, process_.get(),
-                     [this](int exitCode, QProcess::ExitStatus status) { onFinished(exitCode, status); });
+                     [this](int exitCode, QProcess::ExitStatus status) {
+                         if (status != QProcess::NormalExit || exitCode != 0) tryNext();
+                     });
+    // The process is still cleared away when it tells that it has not started.
+    const auto tryAfterFailedStart = [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) tryNext();
+    };
+    QObject::connect(process_.get(), &QProcess::errorOccurred, process_.get(), tryAfterFailedStart,
+                     Qt::QueuedConnection);
 }
 
 void SoundPlayer::silence() {
@@ -47,8 +55,8 @@ void SoundPlayer::start() {
     if (untried_ > 0) process_->start(players_.first(), {fileName_});
 }
 
-void SoundPlayer::onFinished(int exitCode, QProcess::ExitStatus status) {
-    if (untried_ == 0 || (status == QProcess::NormalExit && exitCode == 0)) return;
+void SoundPlayer::tryNext() {
+    if (untried_ == 0) return;
     --untried_;
     players_.append(players_.takeFirst());
     start();

@@ -25,7 +25,7 @@ class SoundPlayer {
     void prepare();
     void silence();
     void start();
-    void onFinished(int exitCode, QProcess::ExitStatus status);
+    void tryNext();
 
     std::unique_ptr<QProcess> process_;  // none before the first sound
     QStringList players_;                // the one in use comes first

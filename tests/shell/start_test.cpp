@@ -89,7 +89,9 @@ TEST_F(Start, bearsRubbishInEverySettingsFile) {
                                  std::string(4, '\xFF'),
                                  std::string(5000, '\xFF'),
                                  std::string("\x08\0\xFF\xFF\xFF\xFF\xFF\xFF", 8),
-                                 std::string("\0\0\xC0\x7F", 4)};
+                                 std::string("\0\0\xC0\x7F", 4),
+                                 std::string("\0\0\x80\x3F", 4),
+                                 std::string("\0\0\x80\x3F\x02\0\0\x80\x02\0\xFF\x7F", 12)};
     for (const char* name :
          {"language.dat", "decpoint.dat", "format.dat", "winstate.dat", "gui1.dat", "gui2.dat", "style.dat",
           "ntcheck.zfr", "wpcheck.zfr", "quicksave.zfr", "font.zfr", "temp.dat"}) {
@@ -103,10 +105,24 @@ TEST_F(Start, bearsRubbishInEverySettingsFile) {
             ASSERT_NO_THROW(program.keys.run([&] { program.start(); })) << name;
             for (const char16_t key : Text(u"5+3\r")) program.keys.stroke(keyOfCharacter(key));
             EXPECT_TRUE(program.pultform.state.operand.equals(8, commaStyle)) << name;
+            EXPECT_GT(program.pultform.place.width, 5000) << name;
+            EXPECT_GT(program.pultform.place.height, 1500) << name;
         }
         std::filesystem::remove(folder_ / name);
         folder_.put(name, "");
     }
+}
+
+// Neither a settings file that cannot be read nor one that cannot be written answers the question.
+TEST_F(Start, asksForTheSeparatorWhereItCannotBeKept) {
+    system_.locale = "";
+    std::filesystem::create_directory(folder_ / "decpoint.dat");
+    headless_.queueAnswer(BoxAnswer::german);
+    headless_.queueAnswer(BoxAnswer::ok);
+    headless_.queueAnswer(BoxAnswer::yes);
+    EXPECT_TRUE(startAndAdd());
+    EXPECT_TRUE(logHas("\"Zifferon PRO 5.0 - Setup\""));
+    EXPECT_TRUE(logHas("\"decpoint.dat: Die Einstellung konnte nicht gespeichert werden.   \""));
 }
 
 TEST_F(Start, stopsAtADamagedLetterheadUntilItIsDeleted) {
@@ -125,13 +141,34 @@ TEST_F(Start, survivesAFaultAtEveryOperation) {
     for (int n = 1;; ++n) {
         SCOPED_TRACE(n);
         files_.failOperation(n, FileTrouble::access);
-        startAndAdd();
+        EXPECT_TRUE(startAndAdd() || logHas("box critical"));
         const bool met = files_.faultMet();
         files_.failOperation(0);
         EXPECT_TRUE(startAndAdd());
         if (!met) break;
         ASSERT_LT(n, 200);
     }
+}
+
+// The session ends while the goodbye window stands.
+struct EndingInThePause : Process {
+    [[noreturn]] void end() override { throw ProcessEnded(); }
+    void pause(int) override {
+        if (desktop.onSessionEnd) desktop.onSessionEnd();
+    }
+    explicit EndingInThePause(Desktop& of) : desktop(of) {}
+    Desktop& desktop;
+};
+
+TEST_F(Start, endsOnlyOnce) {
+    EndingInThePause process(headless_);
+    Machine machine{headless_, headless_, headless_, files_, headless_, process, system_, headless_};
+    Program program(machine);
+    program.keys.run([&] { program.start(); });
+    headless_.queueAnswer(BoxAnswer::yes);
+    log_.str("");
+    EXPECT_THROW(program.keys.stroke({keyCode::f12}), ProcessEnded);
+    EXPECT_EQ(log_.str().find("window Form2 shown"), log_.str().rfind("window Form2 shown"));
 }
 
 }  // namespace

@@ -54,9 +54,18 @@ TEST_F(UndoFiles, aMissingSnapshotIsAGapAndTheOneBelowComesBack) {
     EXPECT_EQ(state().undoCounter, 1);
 }
 
-TEST_F(UndoFiles, withoutItsFolderTheNextSnapshotEndsTheProcess) {
+TEST_F(UndoFiles, aLostFolderIsMadeAnew) {
     type(u"5+");
     std::filesystem::remove_all(folder_ / "Temp");
+    type(u"3+");
+    EXPECT_EQ(state().zwischen.text(), u"8,00");
+    EXPECT_TRUE(folder_.has("Temp/temp2.tmp"));
+}
+
+TEST_F(UndoFiles, whereNoneCanBeMadeTheNextSnapshotEndsTheProcess) {
+    type(u"5+");
+    std::filesystem::remove_all(folder_ / "Temp");
+    folder_.put("Temp", "");
     EXPECT_THROW(type(u"3+"), ProcessEnded);
     EXPECT_TRUE(logHas("Zu wenig Arbeitsspeicher"));
 }

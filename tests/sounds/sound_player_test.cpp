@@ -73,6 +73,17 @@ TEST_F(SoundPlayerTest, aPlayerThatFailsGivesWayToTheNext) {
     EXPECT_TRUE(waitUntil([&] { return log().ends_with("start.wav\naplay undo.wav\n"); })) << log();
 }
 
+TEST_F(SoundPlayerTest, aPlayerThatCannotBeStartedGivesWayToo) {
+    programs_.put("paplay", "#!/no/such/shell\n");
+    std::filesystem::permissions(programs_ / "paplay", std::filesystem::perms::owner_all);
+    offer("aplay", "");
+    SoundPlayer player;
+    player.play("start.wav");
+    ASSERT_TRUE(waitUntil([&] { return log() == "aplay start.wav\n"; })) << log();
+    player.play("undo.wav");
+    EXPECT_TRUE(waitUntil([&] { return log() == "aplay start.wav\naplay undo.wav\n"; })) << log();
+}
+
 TEST_F(SoundPlayerTest, isSilentWhenAllFailOrThereIsNone) {
     SoundPlayer none;
     none.play("start.wav");

@@ -65,7 +65,9 @@ TEST_F(FilesTest, tellWhatIsWrong) {
     EXPECT_EQ(troubleIn([&] { files.remove("none"); }), FileTrouble::missing);
     EXPECT_EQ(troubleIn([&] { files.write("/dev/full", "x"); }), FileTrouble::noSpace);
     EXPECT_TRUE(troubleIn([&] { files.read("Temp"); }));
-    EXPECT_TRUE(troubleIn([&] { PosixFiles none((folder / "none").string()); }));
+    PosixFiles none((folder / "none").string());
+    EXPECT_FALSE(none.FileExists("a"));
+    EXPECT_TRUE(troubleIn([&] { none.write("a", "x"); }));
 
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
     EXPECT_TRUE(troubleIn([&] { files.readOrCreate("pipe"); }));  // and does not wait for a writer
@@ -87,9 +89,12 @@ TEST_F(FilesTest, aFileThatFindsNoMoreRoomIsAFailure) {
     const std::string piece(700, 'x');
     const std::vector<std::string_view> pieces = {piece, piece, piece};
     EXPECT_EQ(troubleIn([&] { files.write("a", pieces); }), FileTrouble::noSpace);
+    folder.put("quick", "the former content");
+    EXPECT_EQ(troubleIn([&] { files.write("quick", pieces); }), FileTrouble::noSpace);
     ::setrlimit(RLIMIT_FSIZE, &before);
     ::signal(SIGXFSZ, oldHandler);
     EXPECT_EQ(folder.bytes("a"), std::string(1000, 'x'));
+    EXPECT_EQ(folder.bytes("quick"), "the former content");
 }
 
 TEST_F(FilesTest, emptyAFolderByPatternAndFollowNoLink) {

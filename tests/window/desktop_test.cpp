@@ -1,8 +1,6 @@
 // What the desktop does beside keys and mouse: the front, the tray, the hot key, and the end of the session.
 #include <QApplication>
-#include <QProcess>
 #include <QScreen>
-#include <QStandardPaths>
 #include <csignal>
 #include <optional>
 
@@ -226,13 +224,9 @@ TEST_F(DesktopTest, SignalEndsTheSessionOnce) {
 }
 
 TEST_F(DesktopTest, TrayIconAndItsMenu) {
-    const QString host = QStandardPaths::findExecutable(QStringLiteral("trayer"));
-    if (host.isEmpty()) GTEST_SKIP() << "missing: trayer";
     EXPECT_FALSE(desktop.hasTray());
-    QProcess tray;
-    tray.start(host,
-               QStringLiteral("--edge bottom --align left --widthtype request --height 24").split(u' '));
-    ASSERT_TRUE(comesTrue([&] { return desktop.hasTray(); }));
+    TrayHost tray;
+    if (!tray.start()) GTEST_SKIP() << "missing: trayer";
 
     std::string seen;
     desktop.onTrayDoubleClick = [&] { seen += "double "; };
@@ -267,8 +261,7 @@ TEST_F(DesktopTest, TrayIconAndItsMenu) {
     hands.click();
     letPass(200);
     EXPECT_EQ(seen, "double show exit ");
-    tray.terminate();
-    EXPECT_TRUE(tray.waitForFinished());
+    tray.stop();
     EXPECT_TRUE(comesTrue([&] { return !desktop.hasTray(); }));
 }
 

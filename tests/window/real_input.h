@@ -14,7 +14,7 @@ constexpr int escape = 9, digit1 = 10, enter = 36, control = 37, shift = 50, alt
 constexpr int letterN = 57, letterR = 27, letterV = 55;
 constexpr int keypad1 = 87, keypad2 = 88, keypad3 = 89, keypad5 = 84, keypad7 = 79;
 constexpr int keypadDecimal = 91, keypadAdd = 86, keypadSubtract = 82, keypadMultiply = 63;
-constexpr int keypadDivide = 106, keypadEnter = 104;
+constexpr int keypadDivide = 106, keypadEnter = 104, right = 114;
 }  // namespace keys
 
 class RealInput {

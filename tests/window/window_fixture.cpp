@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QStandardPaths>
+#include <QSystemTrayIcon>
 #include <chrono>
 #include <thread>
 
@@ -19,6 +21,19 @@ bool comesTrue(const std::function<bool()>& condition, int milliseconds) {
 
 void letPass(int milliseconds) {
     comesTrue([] { return false; }, milliseconds);
+}
+
+bool TrayHost::start() {
+    const QString host = QStandardPaths::findExecutable(QStringLiteral("trayer"));
+    if (host.isEmpty()) return false;
+    process_.start(host,
+                   QStringLiteral("--edge bottom --align left --widthtype request --height 24").split(u' '));
+    return comesTrue([] { return QSystemTrayIcon::isSystemTrayAvailable(); });
+}
+
+void TrayHost::stop() {
+    process_.terminate();
+    process_.waitForFinished();
 }
 
 void WindowTest::SetUp() {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <functional>
@@ -30,6 +31,19 @@ class FreshFolder {
 
   private:
     QTemporaryDir folder_;
+};
+
+// A tray in the left lower corner of the screen, while it lives.
+class TrayHost {
+  public:
+    ~TrayHost() { stop(); }
+
+    // False where none is installed; else it is there, and Qt knows it.
+    bool start();
+    void stop();
+
+  private:
+    QProcess process_;
 };
 
 class WindowTest : public ::testing::Test {

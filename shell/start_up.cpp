@@ -178,7 +178,6 @@ void StartUp::restoreState() {
         // Told below.
     }
     machine_.boxes.show({.icon = BoxIcon::warning,
-
                          .text = Text(s.inLanguage(
                              u"quicksave.zfr: Die gespeicherte Rechnung konnte nicht gelesen werden.   ",
                              u"quicksave.zfr: The stored calculation could not be read.   ")),

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <charconv>
 #include <cmath>
 
 #include "core/failure.h"
@@ -258,32 +257,47 @@ double Decimal::toDouble() const {
     return negative_ ? -value : value;
 }
 
+namespace {
+
+// 10^0 to 10^28, each the nearest double.
+constexpr std::array<double, Decimal::maxScale + 1> doublePowersOfTen = {
+    1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14,
+    1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22, 1e23, 1e24, 1e25, 1e26, 1e27, 1e28};
+
+double powerOfTen(int exponent) { return doublePowersOfTen[static_cast<std::size_t>(exponent)]; }
+
+// The decimals that leave 14 or 15 digits of a number of that size; below 0 so many digits before the point
+// are lost. 19728 / 65536 is the logarithm of 2, a little less.
+int scaleOfDouble(double size) {
+    int exponent = 0;
+    std::frexp(size, &exponent);
+    const int scale = std::min(14 - ((exponent * 19728) >> 16), Decimal::maxScale);
+    return scale == -1 && size < 1e15 ? 0 : scale;
+}
+
+}  // namespace
+
+// Each step is rounded to a double, as the type does it: near a half the last digit is not always that of the
+// exact value.
 Decimal Decimal::fromDouble(double value) {
     constexpr double twoTo96 = 79228162514264337593543950336.0;
-    if (!(std::fabs(value) < twoTo96)) throw CalculationFailure(FailureKind::overflow);
-    // "d.dddddddddddddde[+-]xx": the digits are rounded correctly, half to even on the exact value.
-    std::array<char, 32> buffer;
-    const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
-                                          std::chars_format::scientific, 14)
-                                .ptr;
-    std::uint64_t digits = 0;
-    const char* next = buffer.data();
-    for (; *next != 'e'; ++next) {
-        if (*next != '.') digits = digits * 10 + static_cast<std::uint64_t>(*next - '0');
+    constexpr double smallest = 0x1p-94;
+    const double size = std::fabs(value);
+    if (!(size < twoTo96)) throw CalculationFailure(FailureKind::overflow);
+    if (size < smallest) return {};
+    int scale = scaleOfDouble(size);
+    double scaled = scale < 0 ? size / powerOfTen(-scale) : size * powerOfTen(scale);
+    if (scaled < 1e14 && scale < maxScale) {
+        scaled *= 10;
+        ++scale;
     }
-    int exponent = 0;
-    std::from_chars(next + (next[1] == '+' ? 2 : 1), end, exponent);
-    const bool negative = std::signbit(value);
-    int scale = 14 - exponent;
-    if (scale > maxScale + 20) return {};
-    WideInteger number(digits);
+    UInt128 digits = static_cast<std::uint64_t>(std::nearbyint(scaled));
     if (scale < 0) {
-        if (scale < -15) throw CalculationFailure(FailureKind::overflow);
-        number.multiplyByPowerOfTen(-scale);
+        digits *= powersOfTen[static_cast<std::size_t>(-scale)];
         scale = 0;
     }
-    const Decimal rounded = fit(number, scale, negative, Rest::none);
-    return stripped(rounded.magnitude(), rounded.scale(), negative);
+    for (int zeros = 0; zeros < 14 && scale > 0 && digits % 10 == 0; ++zeros, --scale) digits /= 10;
+    return fromMagnitude(digits, scale, std::signbit(value));
 }
 
 }  // namespace zifferon

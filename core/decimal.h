@@ -42,7 +42,8 @@ class Decimal {
     }
     UInt128 magnitude() const { return UInt128{high_} << 64 | low_; }
 
-    // 15 significant digits, half to even, at most 28 decimals: 0.1 + 0.2 gives 0.3. Throws overflow, for
+    // 15 significant digits, at most 28 decimals: 0.1 + 0.2 gives 0.3. The digits come from scaling in double
+    // arithmetic, so near a half the last one can differ from that of the exact value. Throws overflow, for
     // what is no number too.
     static Decimal fromDouble(double value);
 

@@ -94,6 +94,19 @@ TEST(Decimal, givesTheMeasuredResultsToTheLastDigit) {
     }
 }
 
+// The digits of a double come from its scaling in doubles, not from its exact value.
+TEST(Decimal, takesTheDigitsOfADoubleByScaling) {
+    const auto digits = [](double value) { return toUtf8(scaledText(Decimal::fromDouble(value))); };
+    EXPECT_EQ(digits(87938.652666666661), "87938.6526666666");
+    EXPECT_EQ(digits(2552.0590915662651), "2552.05909156626");
+    EXPECT_EQ(digits(0.1 + 0.2), "0.3");
+    EXPECT_EQ(digits(-1234567890123456.0), "-1234567890123460");
+    EXPECT_EQ(digits(0x1p-94), "0.0000000000000000000000000001");
+    EXPECT_TRUE(Decimal::fromDouble(std::nextafter(0x1p-94, 0)).isZero());
+    EXPECT_EQ(digits(std::nextafter(0x1p96, 0)), "79228162514264300000000000000");
+    EXPECT_THROW(Decimal::fromDouble(0x1p96), CalculationFailure);
+}
+
 TEST(Decimal, partsRoundTrip) {
     const Decimal value = Decimal::fromParts(1, 2, 3, 28, true);
     EXPECT_EQ(value.low(), 1u);

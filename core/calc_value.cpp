@@ -99,6 +99,10 @@ Text CalcValue::toText(Separators separators) const {
                       value_);
 }
 
+CalcValue CalcValue::underSeparators(Separators separators) const {
+    return text() != nullptr ? CalcValue(zifferon::underSeparators(*text(), separators)) : *this;
+}
+
 std::string describe(const CalcValue& value) {
     return std::visit(Overloaded{
                           [](std::monostate) { return std::string("nothing"); },

@@ -45,6 +45,9 @@ class CalcValue {
     double toDouble(Separators separators) const;
     Text toText(Separators separators) const;
 
+    // The same value; the figures of a text come under these separators.
+    CalcValue underSeparators(Separators separators) const;
+
   private:
     Value value_;
 };

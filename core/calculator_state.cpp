@@ -23,4 +23,26 @@ CalculatorState::CalculatorState() {
     applyFormatMode(*this);
 }
 
+namespace {
+
+void bringUnder(Separators separators, TextField& field) {
+    const std::size_t caret = field.caret();
+    field.setText(underSeparators(field.text(), separators));
+    field.setCaret(caret);
+}
+
+}  // namespace
+
+void setDecimalPointStyle(CalculatorState& state, double style) {
+    state.decimalPointStyle = style;
+    const Separators separators = state.separators();
+    bringUnder(separators, state.eingabe);
+    bringUnder(separators, state.zwischen);
+    for (TextField& cell : state.memo) bringUnder(separators, cell);
+    for (CalcValue* value : {&state.operand, &state.accumulator, &state.percentBase, &state.percentRate,
+                             &state.differenceValue1, &state.differenceValue2, &state.firstValueCheck}) {
+        *value = value->underSeparators(separators);
+    }
+}
+
 }  // namespace zifferon

@@ -110,4 +110,8 @@ struct CalculatorState {
     }
 };
 
+// Sets decimalPointStyle and brings the figures that stand in the fields and variables into its separators;
+// the lines of both tapes stay as they were printed.
+void setDecimalPointStyle(CalculatorState& state, double style);
+
 }  // namespace zifferon

@@ -201,6 +201,23 @@ Text maskOf(Digits digits, Separators separators, int maxDecimals) {
 
 }  // namespace
 
+Text underSeparators(TextView text, Separators separators) {
+    constexpr TextView signs = u",.", figure = u"0123456789,.";
+    Text result(text);
+    for (std::size_t begin = 0; (begin = text.find_first_of(figure, begin)) != TextView::npos;) {
+        const std::size_t end = std::min(text.find_first_not_of(figure, begin), text.size());
+        const TextView digits = text.substr(begin, end - begin);
+        const std::size_t last = digits.find_last_of(signs);
+        for (std::size_t i = 0; i < digits.size() && last != TextView::npos; ++i) {
+            if (isDigit(digits[i])) continue;
+            const bool isDecimal = digits[i] == digits[last] && digits.find(digits[last]) == last;
+            result[begin + i] = isDecimal ? separators.decimal : separators.group;
+        }
+        begin = end;
+    }
+    return result;
+}
+
 bool readsAsNumber(TextView text, Separators separators) {
     const auto reading = readSign(text);
     return reading && readDigits(reading->body, separators, [](unsigned, bool) {});

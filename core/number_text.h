@@ -19,6 +19,11 @@ struct Separators {
 inline constexpr Separators commaStyle{u',', u'.'};
 inline constexpr Separators pointStyle{u'.', u','};
 
+// The text with its figures under these separators, whatever they were written under. The decimal sign of a
+// figure is the last of its commas and points: one that the calculator has written carries group signs only
+// beside a decimal sign. One that stands there more than once is a group sign.
+Text underSeparators(TextView text, Separators separators);
+
 // Whether the text reads as a number, of any length.
 bool readsAsNumber(TextView text, Separators separators);
 

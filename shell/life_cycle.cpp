@@ -1,5 +1,6 @@
 #include "shell/life_cycle.h"
 
+#include <cmath>
 #include <utility>
 
 #include "core/number_format.h"
@@ -73,8 +74,9 @@ void LifeCycle::firstActivation() {
 void LifeCycle::applySettings() {
     const auto scheme = [&](const std::string& file, int standard) {
         const float stored = readSetting(machine_.files, file);
-        constexpr float largest = 16;  // what lies outside is no scheme and changes nothing
-        return stored == 0 ? standard : stored >= 1 && stored <= largest ? static_cast<int>(stored) : 0;
+        constexpr float largest = 16;  // what lies outside or between two is no scheme and changes nothing
+        if (!(stored >= 0 && stored <= largest) || stored != std::floor(stored)) return 0;
+        return stored == 0 ? standard : static_cast<int>(stored);
     };
     s.textColourScheme = scheme(settingsFile::textColours, standardTextScheme);
     s.backColourScheme = scheme(settingsFile::backColours, standardBackScheme);
@@ -140,7 +142,6 @@ void LifeCycle::hotKeyPressed() {
         if (std::exchange(layoutCyclePending_, false)) queueLayoutCycle();
         return;
     }
-    s.undoCounter -= 1;
     hideInTray();
 }
 

@@ -36,7 +36,7 @@ constexpr float commaChoice = 1, pointChoice = 2;  // in decpoint.dat
 
 void take(CalculatorState& state, float choice) {
     state.separatorChoice = choice;
-    state.decimalPointStyle = choice == pointChoice ? 1 : 0;
+    setDecimalPointStyle(state, choice == pointChoice ? 1 : 0);
 }
 
 // The opening lines tell why is asked; the rest is the same at the start and during the run.

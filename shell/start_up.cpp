@@ -106,7 +106,7 @@ void StartUp::openUndoSwitch() {
 
 void StartUp::readLocale() {
     const DecimalSeparator separator = separatorOfLocale(machine_.system.GetDecStyle());
-    s.decimalPointStyle = separator == DecimalSeparator::point ? 1 : 0;
+    setDecimalPointStyle(s, separator == DecimalSeparator::point ? 1 : 0);
     s.localeUnknown = separator == DecimalSeparator::unknown;
 }
 

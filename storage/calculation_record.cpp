@@ -58,12 +58,17 @@ struct FieldChecker {
     void operator()(double value) { reader.read(value); }
 };
 
+// The text of a field that holds a figure. It may have been written under other separators.
+Text figuresOf(const TaggedBytes& found, Separators separators) {
+    return found.value().underSeparators(separators).toText(separators);
+}
+
 struct FieldReader {
     RecordReader reader;
     Separators separators;
 
-    void operator()(Text& text) { text = reader.tagged().value().toText(separators); }
-    void operator()(CalcValue& value) { value = reader.tagged().value(); }
+    void operator()(Text& text) { text = figuresOf(reader.tagged(), separators); }
+    void operator()(CalcValue& value) { value = reader.tagged().value().underSeparators(separators); }
     void operator()(float& value) { reader.read(value); }
     void operator()(double& value) { reader.read(value); }
     void operator()(EncodedText& text) {
@@ -156,7 +161,7 @@ void restoreCells(Files& files, const std::string& path, CalculatorState& state)
     const FileContent content = files.readOrCreate(path);
     RecordReader reader(content.view());
     MemoryCells cells;
-    for (Text& cell : cells) cell = reader.tagged().value().toText(state.separators());
+    for (Text& cell : cells) cell = figuresOf(reader.tagged(), state.separators());
     setCells(state, cells);
 }
 

@@ -58,9 +58,9 @@ void gatherRecord(CalculationRecord& record);
 // Takes recordAlwaysOnTop, recordSound and recordClipboard from the check boxes.
 void gatherSwitches(CalculationRecord& record);
 
-// Decodes the fields; tagged ones behind the end become nothing, the others stay as they were. What is no
-// text in the place of one becomes a text under the separators in use. Throws RecordFailure, and then the
-// record is as before.
+// Decodes the fields; tagged ones behind the end become nothing, the others stay as they were. All but the
+// tapes come under the separators in use, also what is no text in the place of one. Throws RecordFailure, and
+// then the record is as before.
 void decodeRecord(std::string_view bytes, CalculationRecord& record);
 
 // Writes the record from the start of the file; what a longer file held behind it stays, and nothing reads

@@ -113,6 +113,38 @@ TEST_F(Start, bearsRubbishInEverySettingsFile) {
     }
 }
 
+// A calculation that was stored under a comma goes on under a point, and no figure changes.
+TEST_F(Start, bringsStoredFiguresUnderTheSeparatorsInForce) {
+    {
+        Program program(machine_);
+        program.keys.run([&] { program.start(); });
+        for (const char16_t key : Text(u"1234,5+m12,5")) program.keys.stroke(keyOfCharacter(key));
+    }
+    folder_.put("quicksave.zfr", folder_.bytes("Temp/temp1.tmp"));
+    system_.locale = "00000409";
+    headless_.beginAnew();
+    Program program(machine_);
+    program.keys.run([&] { program.start(); });
+    EXPECT_EQ(program.pultform.state.zwischen.text(), u"1,234.50");
+    for (const char16_t key : Text(u"1m1+")) program.keys.stroke(keyOfCharacter(key));
+    EXPECT_EQ(program.pultform.state.memo[0].text(), u"1,234.50");
+    EXPECT_EQ(program.pultform.state.zwischen.text(), u"1,235.50");
+    EXPECT_EQ(program.pultform.state.anzeige.text(), u"\r\n1.234,50      \r\n1.00 +   ");
+}
+
+// A number between two schemes is none, and leaves the designed colours.
+TEST_F(Start, takesOnlyWholeNumbersForColourSchemes) {
+    for (const auto& [bytes, scheme] : {std::pair("00 00 20 40", 0), std::pair("00 00 40 40", 3)}) {
+        folder_.put("gui1.dat", fromHex(bytes));
+        folder_.put("gui2.dat", fromHex(bytes));
+        headless_.beginAnew();
+        Program program(machine_);
+        program.keys.run([&] { program.start(); });
+        EXPECT_EQ(program.pultform.state.textColourScheme, scheme);
+        EXPECT_EQ(program.pultform.state.backColourScheme, scheme);
+    }
+}
+
 // Neither a settings file that cannot be read nor one that cannot be written answers the question.
 TEST_F(Start, asksForTheSeparatorWhereItCannotBeKept) {
     system_.locale = "";

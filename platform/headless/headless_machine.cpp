@@ -85,6 +85,7 @@ void HeadlessMachine::beginAnew() {
     due_.clear();
     shown_.clear();
     trayIcon_ = false;
+    events_.clear();
     onHotKey = onTrayDoubleClick = onTrayShow = onTrayExit = onSessionEnd = nullptr;
     clipboard_.clear();
 }
@@ -97,25 +98,27 @@ BoxAnswer HeadlessMachine::takeAnswer(BoxAnswer unasked) {
 }
 
 BoxAnswer HeadlessMachine::show(const Box& box) {
+    const bool asks = box.buttons != BoxButtons::ok;
+    if (asks && answers_.empty() && onUnansweredQuestion) onUnansweredQuestion();
     const BoxAnswer answer = takeAnswer(unasked(box.buttons));
-    log_ << "box " << wordOf(box.icon) << ' ' << wordOf(box.buttons) << ' ' << quoted(box.title) << ' '
-         << quoted(box.text) << " -> " << wordOf(answer) << '\n';
+    tell(std::string("box ") + wordOf(box.icon) + ' ' + wordOf(box.buttons) + ' ' + quoted(box.title) + ' ' +
+         quoted(box.text) + " -> " + wordOf(answer));
     return answer;
 }
 
 void HeadlessMachine::clear() {
     clipboard_.clear();
-    log_ << "clipboard cleared\n";
+    tell("clipboard cleared");
 }
 
 void HeadlessMachine::setText(TextView text) {
     clipboard_ = text;
-    log_ << "clipboard " << quoted(text) << '\n';
+    tell("clipboard " + quoted(text));
 }
 
-void HeadlessMachine::beep() { log_ << "beep\n"; }
+void HeadlessMachine::beep() { tell("beep"); }
 
-void HeadlessMachine::play(const std::string& fileName) { log_ << "sound " << fileName << '\n'; }
+void HeadlessMachine::play(const std::string& fileName) { tell("sound " + fileName); }
 
 namespace {
 
@@ -164,24 +167,31 @@ void HeadlessMachine::hideAll() {
     for (Window* const window : std::vector(shown_)) hide(*window);
 }
 
+void HeadlessMachine::tell(std::string event) {
+    constexpr std::size_t most = 100000;
+    log_ << event << '\n';
+    events_.push_back(std::move(event));
+    if (events_.size() > most) events_.pop_front();
+}
+
 void HeadlessMachine::tellOf(const Window& window, const char* what) {
-    log_ << "window " << toUtf8(window.name) << ' ' << what << '\n';
+    tell("window " + toUtf8(window.name) + ' ' + what);
 }
 
 void HeadlessMachine::openDocument(const std::string& fileName) {
-    log_ << "open " << quoted(fromUtf8(fileName)) << '\n';
+    tell("open " + quoted(fromUtf8(fileName)));
 }
 
 void HeadlessMachine::addTrayIcon() {
-    if (!std::exchange(trayIcon_, true)) log_ << "tray icon added\n";
+    if (!std::exchange(trayIcon_, true)) tell("tray icon added");
 }
 
 void HeadlessMachine::removeTrayIcon() {
-    if (std::exchange(trayIcon_, false)) log_ << "tray icon removed\n";
+    if (std::exchange(trayIcon_, false)) tell("tray icon removed");
 }
 
 void HeadlessMachine::end() {
-    log_ << "end of process\n";
+    tell("end of process");
     throw ProcessEnded();
 }
 

@@ -31,6 +31,12 @@ class HeadlessMachine : public Boxes,
     // One of yes, no, ok, cancel, or a language; the next box without an answer of its own takes it.
     void queueAnswer(BoxAnswer answer) { answers_.push_back(answer); }
 
+    // Runs where a question finds no answer; a notice needs none.
+    std::function<void()> onUnansweredQuestion;
+
+    // The lines of the log that nobody has taken yet, oldest first. Of very many only the newest are kept.
+    std::deque<std::string>& events() { return events_; }
+
     const Text& clipboardText() const { return clipboard_; }
     // A new program on the same machine: no timer of the former one is due, and the clipboard is empty.
     void beginAnew();
@@ -78,10 +84,12 @@ class HeadlessMachine : public Boxes,
     static bool before(const Due& a, const Due& b);
     void followTimers(const Window& window);
     bool tickNext(InUse mainWindow, std::int64_t until);
+    void tell(std::string event);
     void tellOf(const Window& window, const char* what);
     BoxAnswer takeAnswer(BoxAnswer unasked);
 
     std::ostream& log_;
+    std::deque<std::string> events_;
     std::deque<BoxAnswer> answers_;
     Text clipboard_;
     bool trayIcon_ = false;

@@ -6,6 +6,7 @@
 
 #include "core/failure.h"
 #include "core/number_format.h"
+#include "platform/headless/headless_machine.h"
 
 namespace zifferon {
 
@@ -32,14 +33,30 @@ double doubleOf(const std::string& digits) {
 
 Decimal decimalOf(const std::string& digits) { return parseDecimal(fromUtf8(digits), pointStyle); }
 
+std::string formatted(const Decimal& value, Separators separators) {
+    return toUtf8(format(CalcValue(value), formattedNumberPattern, separators));
+}
+
+// The figure that a text reads as.
+std::string reading(const Text& written, Separators separators) {
+    try {
+        return text(parseDecimal(written, separators));
+    } catch (const CalculationFailure& failure) {
+        if (failure.kind() == FailureKind::notANumber) return "refused";
+        throw;
+    }
+}
+
 std::string unary(const std::string& op, const std::string& a) {
     if (op == "from-double") return text(Decimal::fromDouble(doubleOf(a)));
+    if (op == "text-double") return toUtf8(generalText(doubleOf(a), pointStyle));
     const Decimal value = decimalOf(a);
     if (op == "neg") return text(-value);
     if (op == "trunc") return text(value.truncated());
     if (op == "text") return toUtf8(generalText(value, pointStyle));
     if (op == "to-double") return seventeenDigits(value.toDouble());
-    if (op == "format") return toUtf8(format(CalcValue(value), formattedNumberPattern, pointStyle));
+    if (op == "format") return formatted(value, pointStyle);
+    if (op == "format-comma") return formatted(value, commaStyle);
     throw MalformedScript("unknown decimal operation " + op);
 }
 
@@ -74,11 +91,14 @@ bool isBinary(const std::string& op) {
 
 std::string decimalCommand(ScriptLine& line) {
     const std::string op = line.word();
-    const std::string a = line.word();
+    const bool reads = op == "read" || op == "read-comma";
+    const Text written = reads ? line.quotedText() : Text();
+    const std::string a = reads ? quoted(written) : line.word();
     const std::string b = isBinary(op) ? line.word() : "";
     line.expectEnd();
     const std::string head = "decimal " + op + ' ' + a + (b.empty() ? "" : ' ' + b) + " = ";
     try {
+        if (reads) return head + reading(written, op == "read" ? pointStyle : commaStyle);
         return head + (b.empty() ? unary(op, a) : binary(op, a, b));
     } catch (const CalculationFailure& failure) {
         return head + failureWord(failure);

@@ -114,7 +114,7 @@ std::optional<std::string> propertyOf(const Control& control, std::string_view p
     if (property == "visible") return render(control.visible);
     if (property == "enabled") return render(control.enabled);
     if (property == "caption") return render(control.caption);
-    if (property == "tooltip") return render(control.toolTip);
+    if (property == "tip") return render(control.toolTip);
     if (property == "left") return std::to_string(control.place.left);
     if (property == "top") return std::to_string(control.place.top);
     if (property == "width") return std::to_string(control.place.width);

@@ -1,5 +1,6 @@
 #include "programs/script/script_runner.h"
 
+#include <algorithm>
 #include <map>
 #include <string>
 
@@ -181,6 +182,8 @@ bool ScriptRunner::runLook(const std::string& command, ScriptLine& line) {
         return true;
     }
     if (command == "expect") return expect(line), true;
+    if (command == "expect-event") return expectEvent(line), true;
+    if (command == "expect-no-event") return expectNoEvent(line), true;
     if (command == "expect-tape") return expectLines("anzeige", line), true;
     if (command == "expect-print") return expectLines("superdruck", line), true;
     return false;
@@ -306,6 +309,48 @@ void ScriptRunner::expect(ScriptLine& line) {
     const std::string expected = normalised(line);
     line.expectEnd();
     if (*found != expected && *found != "int " + expected) fail(name, expected, *found);
+}
+
+namespace {
+
+bool isOfWindow(const std::string& event) { return event.starts_with("window "); }
+
+// Whether the event is the line, in which a * stands for any text. What stands between two of them is taken
+// where it comes first.
+bool matches(std::string_view event, std::string_view line) {
+    const std::size_t first = line.find('*');
+    if (first == std::string_view::npos) return event == line;
+    if (!event.starts_with(line.substr(0, first))) return false;
+    event.remove_prefix(first);
+    line.remove_prefix(first + 1);
+    for (std::size_t star; (star = line.find('*')) != std::string_view::npos;) {
+        const std::size_t found = event.find(line.substr(0, star));
+        if (found == std::string_view::npos) return false;
+        event.remove_prefix(found + star);
+        line.remove_prefix(star + 1);
+    }
+    return event.ends_with(line);
+}
+
+}  // namespace
+
+void ScriptRunner::expectEvent(ScriptLine& line) {
+    const std::string expected = toUtf8(line.quotedText());
+    line.expectEnd();
+    std::deque<std::string>& events = headless_.events();
+    while (!events.empty() && isOfWindow(events.front()) && !matches(events.front(), expected)) {
+        events.pop_front();
+    }
+    if (events.empty()) return fail("event", expected, "none");
+    if (!matches(events.front(), expected)) return fail("event", expected, events.front());
+    events.pop_front();
+}
+
+void ScriptRunner::expectNoEvent(ScriptLine& line) {
+    line.expectEnd();
+    const std::deque<std::string>& events = headless_.events();
+    const auto found = std::find_if_not(events.begin(), events.end(), isOfWindow);
+    if (found != events.end()) fail("event", "none", *found);
 }
 
 void ScriptRunner::expectLines(const char* fieldName, ScriptLine& line) {

@@ -35,9 +35,6 @@ class CalcValue {
         return compare(number, separators) == std::weak_ordering::equivalent;
     }
 
-    // Nothing and the empty text are "".
-    bool isEmptyText() const { return isNothing() || (text() != nullptr && text()->empty()); }
-
     // The value as an exact decimal, as the double of its digits, or as its general text. Nothing is 0, and
     // "" as a text. The first two throw CalculationFailure where the text is no number or the value out of
     // range.

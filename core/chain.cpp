@@ -37,7 +37,7 @@ void KeyPress::firstOperand() {
         s.chainActive = 1;
         // A total stands on the tape already.
         if (!s.chainTotalled) tape::addFirstNumber(s, number);
-        s.txtop.setText(tape::marksOf(key).sign);
+        s.txtop.setText(operatorOfKey(key)->sign);
     }
     finishKey();
 }
@@ -56,66 +56,41 @@ void KeyPress::chainStage() {
 
 void KeyPress::step() {
     if (isSeparator()) return;
-    if (isOperator() && operatorPends()) return stepByOperator();
-    if (isEnter() && operatorPends()) return stepByEnter();
+    const Operator* const pending = pendingOperator(s);
+    if (isOperator() && pending != nullptr) return stepByOperator(*pending);
+    if (isEnter() && pending != nullptr) return stepByEnter(*pending);
     if (isBackspace()) return;
     eat();
 }
 
-namespace {
-
-char16_t operatorOf(const CalculatorState& s) {
-    for (const char16_t candidate : {u'*', u'+', u'-'}) {
-        if (s.pendingOpCode.equals(candidate, s.separators())) return candidate;
-    }
-    return u'/';
-}
-
-Decimal apply(char16_t operation, const Decimal& left, const Decimal& right) {
-    switch (operation) {
-        case u'+':
-            return left + right;
-        case u'-':
-            return left - right;
-        case u'*':
-            return left * right;
-        default:
-            return left / right;
-    }
-}
-
-}  // namespace
-
-void KeyPress::computePending() {
+void KeyPress::compute(const Operator& pending) {
     const Separators separators = s.separators();
-    s.operand = apply(operatorOf(s), s.accumulator.toDecimal(separators), s.operand.toDecimal(separators));
+    s.operand = pending.compute(s.accumulator.toDecimal(separators), s.operand.toDecimal(separators));
     s.zwischen.setText(format(s.operand, s.numberFormat, separators));
 }
 
 // The print copy gets its line before the operation, the visible tape after it: when the operation fails,
 // only the print copy shows the number.
-void KeyPress::stepByOperator() {
-    const tape::OperatorMarks& marks = tape::marksOf(operatorOf(s));
+void KeyPress::stepByOperator(const Operator& pending) {
     const Text number = format(s.eingabe.text(), s.numberFormat, s.separators());
-    tape::addLine(s.superdruck, {tape::pad(number.size()), number, marks.onPrint});
-    computePending();
+    tape::addLine(s.superdruck, {tape::pad(number.size()), number, pending.onPrint});
+    compute(pending);
     s.pendingOpCode = key;
     s.eingabe.setText(u"");
-    tape::addLine(s.anzeige, {number, marks.onTape});
-    s.txtop.setText(tape::marksOf(key).sign);
+    tape::addLine(s.anzeige, {number, pending.onTape});
+    s.txtop.setText(operatorOfKey(key)->sign);
     eat();
 }
 
-void KeyPress::stepByEnter() {
-    const tape::OperatorMarks& marks = tape::marksOf(operatorOf(s));
+void KeyPress::stepByEnter(const Operator& pending) {
     const std::size_t width = format(s.eingabe.text(), s.numberFormat, s.separators()).size();
     const Text number = format(s.eingabe.text(), s.tapeFormat, s.separators());
-    computePending();
+    compute(pending);
     s.eingabe.maxLength = 50;
     setEntry(format(s.operand, s.numberFormat, s.separators()));
     s.chainActive = 0;
-    tape::addLine(s.anzeige, {number, marks.onTape});
-    tape::addLine(s.superdruck, {tape::pad(width), number, marks.onPrint});
+    tape::addLine(s.anzeige, {number, pending.onTape});
+    tape::addLine(s.superdruck, {tape::pad(width), number, pending.onPrint});
     standTotal();
     eat();
 }

@@ -203,7 +203,7 @@ void KeyPress::operatorsAndWiping() {
 // A second operator corrects the pending one, and nothing is written to the tape.
 KeyPress::Flow KeyPress::operatorOnEmptyEntry() {
     s.pendingOpCode = key;
-    s.txtop.setText(tape::marksOf(key).sign);
+    s.txtop.setText(operatorOfKey(key)->sign);
     eat();
     if (!s.zwischen.is(u"0")) return goOn;
     s.txtop.setText(u"");

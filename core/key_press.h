@@ -4,6 +4,7 @@
 #pragma once
 
 #include "core/calculator_state.h"
+#include "core/operators.h"
 
 namespace zifferon {
 
@@ -46,8 +47,8 @@ class KeyPress {
     void firstOperand();
     void chainStage();
     void step();
-    void stepByOperator();
-    void stepByEnter();
+    void stepByOperator(const Operator& pending);
+    void stepByEnter(const Operator& pending);
     void standTotal();
     void totalDisplayedValue();
     void closeCalculation();
@@ -55,7 +56,7 @@ class KeyPress {
     void finishKey();
     void enterErrorState();
     void parseOperands();
-    void computePending();
+    void compute(const Operator& pending);
 
     // percent.cpp
     void percentOfRunningValue();
@@ -94,10 +95,10 @@ class KeyPress {
     bool isV() const { return isAny(u"vV"); }
     bool isW() const { return isAny(u"wW"); }
     bool isPercent() const { return isAny(u"pP%"); }
-    bool isOperator() const { return isAny(u"+-*/"); }
+    bool isOperator() const { return operatorOfKey(key) != nullptr; }
     bool isSeparator() const { return isAny(u",."); }
     bool pendingIs(int code) const { return s.pendingOpCode.equals(code, s.separators()); }
-    bool operatorPends() const { return pendingIs(42) || pendingIs(43) || pendingIs(45) || pendingIs(47); }
+    bool operatorPends() const { return pendingOperator(s) != nullptr; }
     bool chainRuns() const { return s.chainActive.equals(1, s.separators()); }
 
     void eat() { key = 0; }

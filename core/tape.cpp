@@ -7,23 +7,6 @@ namespace zifferon::tape {
 const TextView tapeStars = u" * * * * * * * * * * * * * * * * * * * * * * * * * * * * * * * *   ";
 const TextView printStars = u" *************************************************************";
 
-const OperatorMarks& marksOf(char16_t operatorKey) {
-    static constexpr OperatorMarks plus{u"+", u" +   ", u" +"};
-    static constexpr OperatorMarks minus{u"-", u" --   ", u" -"};
-    static constexpr OperatorMarks times{u"x", u" x   ", u" x"};
-    static constexpr OperatorMarks divided{u"÷", u"  /   ", u" /"};
-    switch (operatorKey) {
-        case u'+':
-            return plus;
-        case u'-':
-            return minus;
-        case u'*':
-            return times;
-        default:
-            return divided;
-    }
-}
-
 Text pad(std::size_t width, std::size_t column) { return Text(width < column ? column - width : 0, u' '); }
 
 void addLine(TextField& tape, std::initializer_list<TextView> parts) {

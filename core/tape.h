@@ -6,14 +6,6 @@
 
 namespace zifferon::tape {
 
-// Each operator in its three forms: in txtop, behind a number on anzeige, behind a number on superdruck.
-struct OperatorMarks {
-    TextView sign, onTape, onPrint;
-};
-
-// Of 43, 45, 42 or 47.
-const OperatorMarks& marksOf(char16_t operatorKey);
-
 // Blanks to the number `column` minus `width`; none where the width is larger.
 Text pad(std::size_t width, std::size_t column = 60);
 

@@ -1,6 +1,7 @@
 #include "memory/memory_panel.h"
 
 #include "core/failure.h"
+#include "core/operators.h"
 #include "platform/key.h"
 
 namespace zifferon {
@@ -62,21 +63,13 @@ void MemoryPanel::memoryRecallStage(char16_t key) {
     restorePendingOperator();
 }
 
+// Behind a total the code is that of its sign; 0, and what is no code, leave none.
 void MemoryPanel::restorePendingOperator() {
-    const Separators separators = s.separators();
-    if (s.pendingOpCode.isEmptyText()) return s.txtop.setText(u"");
+    if (const Operator* const pending = pendingOperator(s)) return s.txtop.setText(pending->sign);
     try {
-        const auto code = static_cast<int>(s.pendingOpCode.toDouble(separators));
-        switch (code) {
-            case 0:
-                return s.txtop.setText(u"");
-            case u'*':
-                return s.txtop.setText(u"x");
-            case u'/':
-                return s.txtop.setText(u"÷");
-            default:
-                return s.txtop.setText(Text(1, static_cast<char16_t>(code)));
-        }
+        const double code = s.pendingOpCode.toDouble(s.separators());
+        const bool isCharacter = code >= 1 && code <= 0xFFFF;
+        s.txtop.setText(isCharacter ? Text(1, static_cast<char16_t>(code)) : Text());
     } catch (const CalculationFailure&) {
         s.txtop.setText(u"");
     }

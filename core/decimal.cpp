@@ -240,14 +240,6 @@ Decimal Decimal::truncated() const {
     return fromMagnitude(number.low128(), 0, negative_);
 }
 
-Decimal Decimal::rounded(int decimals) const {
-    if (scale_ <= decimals) return *this;
-    WideInteger number(magnitude());
-    const Rest rest = dropDigits(number, scale_ - decimals, false);
-    if (rest == Rest::half || rest == Rest::aboveHalf) number.increment();
-    return fromMagnitude(number.low128(), decimals, negative_);
-}
-
 double Decimal::toDouble() const {
     constexpr double twoTo64 = 18446744073709551616.0;
     const double magnitude = static_cast<double>(low_) + static_cast<double>(high_) * twoTo64;

@@ -56,9 +56,6 @@ class Decimal {
     // Without the decimals, scale 0.
     Decimal truncated() const;
 
-    // To at most so many decimals (0 to 28), half away from zero. A smaller scale stays.
-    Decimal rounded(int decimals) const;
-
     friend Decimal operator+(const Decimal& a, const Decimal& b);
     friend Decimal operator-(const Decimal& a, const Decimal& b) { return a + -b; }
     friend Decimal operator*(const Decimal& a, const Decimal& b);

@@ -83,9 +83,6 @@ class CheckBox : public Control {
         if (std::exchange(ticked_, ticked) != ticked) click();
     }
 
-    // Sets the tick without running the handler.
-    void placeTick(bool ticked) { ticked_ = ticked; }
-
   private:
     bool ticked_ = false;
 };

@@ -28,8 +28,8 @@ struct Desk {
         state.chainActive = 1;
         state.pendingOpCode = 47;
         state.tapeClearArmed = true;
-        state.Checkob.placeTick(true);
-        state.clipcheck.placeTick(true);
+        state.Checkob.setTicked(true);
+        state.clipcheck.setTicked(true);
         record.recordRoundingTick = 1;
         record.recordRoundingCaption = u"&RND 3";
     }

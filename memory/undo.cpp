@@ -4,27 +4,13 @@
 
 namespace zifferon {
 
-namespace {
-
-constexpr const char* folder = "Temp";
-
-}  // namespace
-
 Undo::Undo(CalculatorState& state, CalculationRecord& record, Machine& machine,
            std::function<void()> showNothingToUndo)
-    : s(state), machine_(machine), showNothingToUndo_(std::move(showNothingToUndo)), record_(record) {}
-
-std::string Undo::fileOf(int number) {
-    return std::string(folder) + "/temp" + std::to_string(number) + ".tmp";
-}
-
-void Undo::emptyFolder() {
-    try {
-        machine_.files.removeAll(folder, "*");
-    } catch (const FileFailure&) {
-        // What is left there is overwritten by its number, or never read.
-    }
-}
+    : s(state),
+      machine_(machine),
+      showNothingToUndo_(std::move(showNothingToUndo)),
+      record_(record),
+      snapshots_(machine.files) {}
 
 void Undo::begin() {
     s.undoCounter = 0;
@@ -44,7 +30,7 @@ void Undo::writeSnapshotFile() {
     gatherRecord(record_);
     gatherSwitches(record_);
     try {
-        writeIntoFolder();
+        snapshots_.write(s.undoCounter, EncodedRecord(record_));
     } catch (const FileFailure&) {
         machine_.boxes.show(
             {.icon = BoxIcon::critical,
@@ -54,17 +40,6 @@ void Undo::writeSnapshotFile() {
                                        u"Your harddrive is out of memory! Zifferon will be shut down!   ")),
              .english = s.languageEnglish});
         machine_.process.end();
-    }
-}
-
-// The folder may have been lost, as when the program folder was copied without its empty ones.
-void Undo::writeIntoFolder() {
-    try {
-        writeRecord(machine_.files, fileOf(s.undoCounter), record_);
-    } catch (const FileFailure& failure) {
-        if (failure.trouble() != FileTrouble::missing) throw;
-        machine_.files.createFolder(folder);
-        writeRecord(machine_.files, fileOf(s.undoCounter), record_);
     }
 }
 
@@ -102,7 +77,7 @@ void Undo::clearEntryAndSign() {
 void Undo::stepBack() {
     s.undoCounter -= 1;
     try {
-        readRecord(machine_.files, fileOf(s.undoCounter), record_);
+        decodeRecord(snapshots_.read(s.undoCounter).view(), record_);
     } catch (const FileFailure&) {
         return showUnreadable();
     } catch (const RecordFailure&) {
@@ -113,11 +88,7 @@ void Undo::stepBack() {
     applyVariables(record_);
     s.calls.focusEntry();
     s.eingabe.locked = false;
-    try {
-        machine_.files.remove(fileOf(s.undoCounter + 1));
-    } catch (const FileFailure&) {
-        // Above all a number that had no file.
-    }
+    snapshots_.remove(s.undoCounter + 1);
 }
 
 void Undo::showUnreadable() {
@@ -164,7 +135,7 @@ void Undo::zwischenChanged() {
 
 void Undo::restoreCells() {
     try {
-        zifferon::restoreCells(machine_.files, fileOf(0), s);
+        zifferon::restoreCells(snapshots_.read(0).view(), s);
     } catch (const FileFailure&) {
         // Without snapshot 0 the cells stay.
     } catch (const RecordFailure&) {

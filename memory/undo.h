@@ -1,12 +1,11 @@
 // Undo works on whole copies of the calculator: after each key that can change the calculation its record
-// goes into a numbered file; Undo reads the file one below, and deletes the newer one.
+// becomes a numbered snapshot; Undo reads the one below, and takes the newer one away.
 #pragma once
 
 #include <functional>
-#include <string>
 
 #include "core/calculator_state.h"
-#include "platform/files.h"
+#include "memory/snapshots.h"
 #include "platform/machine.h"
 #include "storage/calculation_record.h"
 
@@ -20,7 +19,7 @@ class Undo {
          std::function<void()> showNothingToUndo);
 
     // Removes all snapshots.
-    void emptyFolder();
+    void emptyFolder() { snapshots_.clear(); }
 
     // The first state of a run: the numbers begin at 0, and snapshot 0 is written, as below.
     void begin();
@@ -44,17 +43,16 @@ class Undo {
     void restoreCells();
 
   private:
-    void writeIntoFolder();
     void showInactive();
     void showUnreadable();
     void stepBack();
     void clearEntryAndSign();
-    static std::string fileOf(int number);
 
     CalculatorState& s;
     Machine& machine_;
     std::function<void()> showNothingToUndo_;
     CalculationRecord& record_;
+    Snapshots snapshots_;
 };
 
 }  // namespace zifferon

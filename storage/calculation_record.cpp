@@ -100,6 +100,30 @@ std::array<std::string_view, 5> EncodedRecord::pieces() const& {
             all.substr(printCopyAt)};
 }
 
+std::array<std::string_view, 5> piecesOf(std::string_view bytes) {
+    constexpr int beforeTape = 5, beforePrintCopy = 3;  // so many other values stand in front of it
+    RecordReader reader(bytes);
+    const auto skip = [&](int values) {
+        for (int i = 0; i < values; ++i) reader.tagged();
+    };
+    try {
+        skip(beforeTape);
+        const std::string_view tape = reader.tagged().content;
+        skip(beforePrintCopy);
+        const std::string_view printCopy = reader.tagged().content;
+        const auto upTo = [](const char* begin, std::string_view piece) {
+            return std::string_view(begin, static_cast<std::size_t>(piece.data() - begin));
+        };
+        const char* const behindTape = tape.data() + tape.size();
+        const char* const behindPrintCopy = printCopy.data() + printCopy.size();
+        if (tape.data() == nullptr || printCopy.data() == nullptr) return {bytes};
+        return {upTo(bytes.data(), tape), tape, upTo(behindTape, printCopy), printCopy,
+                bytes.substr(static_cast<std::size_t>(behindPrintCopy - bytes.data()))};
+    } catch (const RecordFailure&) {
+        return {bytes};
+    }
+}
+
 void gatherRecord(CalculationRecord& record) {
     const CalculatorState& s = record.state;
     for (std::size_t i = 0; i < record.M.size(); ++i) record.M[i] = s.memo[i].text();
@@ -157,9 +181,8 @@ void applyVariables(const CalculationRecord& record) {
     s.tapeClearArmed = record.savedTapeClearArmed != 0;
 }
 
-void restoreCells(Files& files, const std::string& path, CalculatorState& state) {
-    const FileContent content = files.readOrCreate(path);
-    RecordReader reader(content.view());
+void restoreCells(std::string_view bytes, CalculatorState& state) {
+    RecordReader reader(bytes);
     MemoryCells cells;
     for (Text& cell : cells) cell = figuresOf(reader.tagged(), state.separators());
     setCells(state, cells);

@@ -51,6 +51,9 @@ class EncodedRecord {
     std::array<std::string_view, 2> longText_;
 };
 
+// The same pieces of bytes that were written so. What cannot be decoded is one piece, and the others are empty.
+std::array<std::string_view, 5> piecesOf(std::string_view bytes);
+
 // Takes the ten texts and the saved forms of the live variables from the calculator. The switches and the
 // rounding stay as they are in the record.
 void gatherRecord(CalculationRecord& record);
@@ -78,8 +81,8 @@ void applyFields(CalculationRecord& record);           // anzeige, zwischen, txt
 void applyVariables(const CalculationRecord& record);  // chainTotalled, operand, chainActive, pendingOpCode,
                                                        // tapeClearArmed
 
-// Reads the memory cells of a file into memo1 to memo5 and nothing else of it. Throws as readRecord, and then
-// no cell has changed.
-void restoreCells(Files& files, const std::string& path, CalculatorState& state);
+// Takes the memory cells of a record's bytes into memo1 to memo5 and nothing else of them. Throws
+// RecordFailure, and then no cell has changed.
+void restoreCells(std::string_view bytes, CalculatorState& state);
 
 }  // namespace zifferon

@@ -1,27 +1,11 @@
 #include "storage/encoded_text.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "platform/windows1252.h"
+#include "storage/common_bytes.h"
 
 namespace zifferon {
-
-namespace {
-
-// Compares in strides that run at the speed of the memory, the last bytes one by one.
-std::size_t commonPrefix(std::string_view a, std::string_view b) {
-    const std::size_t size = std::min(a.size(), b.size());
-    std::size_t same = 0;
-    for (const std::size_t stride : {std::size_t{4096}, std::size_t{64}, std::size_t{1}}) {
-        while (same + stride <= size && std::memcmp(a.data() + same, b.data() + same, stride) == 0) {
-            same += stride;
-        }
-    }
-    return same;
-}
-
-}  // namespace
 
 void EncodedText::takeFromField() {
     findAgreement();

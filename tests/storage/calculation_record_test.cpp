@@ -201,19 +201,15 @@ TEST(CalculationRecord, survivesEveryFlippedByteAndRandomOnes) {
 }
 
 TEST(CalculationRecord, restoresTheCellsAlone) {
-    const FreshFolder folder;
-    PosixFiles files(folder.path());
     Desk desk;
     desk.fill();
     const std::string cells = desk.gathered().substr(0, 30);
     desk.state.memo[0].setText(u"99");
 
-    folder.put("temp0.tmp", cells.substr(0, 29));
-    EXPECT_THROW(restoreCells(files, "temp0.tmp", desk.state), RecordFailure);
+    EXPECT_THROW(restoreCells(cells.substr(0, 29), desk.state), RecordFailure);
     EXPECT_EQ(desk.state.memo[0].text(), u"99");
 
-    folder.put("temp0.tmp", cells + "damaged behind the cells");
-    restoreCells(files, "temp0.tmp", desk.state);
+    restoreCells(cells + "damaged behind the cells", desk.state);
     EXPECT_EQ(desk.state.memo[0].text(), u"");
     EXPECT_EQ(desk.state.memo[4].text(), u"4444");
     EXPECT_EQ(desk.state.zwischen.text(), u"12,50");

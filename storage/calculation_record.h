@@ -51,7 +51,8 @@ class EncodedRecord {
     std::array<std::string_view, 2> longText_;
 };
 
-// The same pieces of bytes that were written so. What cannot be decoded is one piece, and the others are empty.
+// The same pieces of bytes that were written so. What cannot be decoded is one piece, and the others are
+// empty.
 std::array<std::string_view, 5> piecesOf(std::string_view bytes);
 
 // Takes the ten texts and the saved forms of the live variables from the calculator. The switches and the

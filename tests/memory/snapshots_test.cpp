@@ -79,7 +79,7 @@ class SnapshotsTest : public testing::TestWithParam<unsigned> {
 
 // Steps, undone ones, and numbers that are taken back without their files, in any order.
 TEST_P(SnapshotsTest, comeBackAsTheyWere) {
-    Snapshots snapshots(disk_, {.files = 2 + GetParam() % 5, .bytes = 4000 * (1 + GetParam())});
+    Snapshots snapshots(disk_, {.files = 2 + GetParam() % 5, .bytes = std::size_t{4000} * (1 + GetParam())});
     write(snapshots);
     for (int i = 0; i < 1500; ++i) {
         const bool up = random_() % 100 < (i % 300 < 150 ? 80 : 20);

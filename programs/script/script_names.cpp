@@ -105,6 +105,12 @@ const std::unordered_map<std::string_view, Variable>& variables() {
         {"cellEnterTransfer", variable<&State::cellEnterTransfer>},
         {"memoryConfirmOff", variable<&State::memoryConfirmOff>},
         {"windowMode", [](const State& s) { return std::to_string(s.windowMode); }},
+        {"separatorChoice", variable<&State::separatorChoice>},
+        {"localeUnknown", variable<&State::localeUnknown>},
+        {"textColourScheme", [](const State& s) { return std::to_string(s.textColourScheme); }},
+        {"backColourScheme", [](const State& s) { return std::to_string(s.backColourScheme); }},
+        {"focusDeferred", variable<&State::focusDeferred>},
+        {"startSoundDone", variable<&State::startSoundDone>},
         {"languageEnglish", variable<&State::languageEnglish>},
     };
     return table;

@@ -28,6 +28,10 @@ ScriptRunner::ScriptRunner(std::ostream& out, std::ostream& errors)
     headless_.whileModal = [this](const Window& modal) { stayIn(modal); };
 }
 
+void ScriptRunner::expectAnswers() {
+    headless_.onUnansweredQuestion = [this] { fail("question", "an answer", "none"); };
+}
+
 int ScriptRunner::run(std::istream& script) {
     script_ = &script;
     try {
@@ -334,16 +338,18 @@ bool matches(std::string_view event, std::string_view line) {
 
 }  // namespace
 
+// Where another event comes first the story goes on behind the one that it expected, if that has come at all.
 void ScriptRunner::expectEvent(ScriptLine& line) {
     const std::string expected = toUtf8(line.quotedText());
     line.expectEnd();
     std::deque<std::string>& events = headless_.events();
-    while (!events.empty() && isOfWindow(events.front()) && !matches(events.front(), expected)) {
-        events.pop_front();
+    const auto isExpected = [&](const std::string& event) { return matches(event, expected); };
+    const auto found = std::find_if(events.begin(), events.end(), isExpected);
+    const auto first = std::find_if_not(events.begin(), found, isOfWindow);
+    if (found == events.end() || first != found) {
+        fail("event", expected, first != events.end() ? *first : "none");
     }
-    if (events.empty()) return fail("event", expected, "none");
-    if (!matches(events.front(), expected)) return fail("event", expected, events.front());
-    events.pop_front();
+    if (found != events.end()) events.erase(events.begin(), found + 1);
 }
 
 void ScriptRunner::expectNoEvent(ScriptLine& line) {

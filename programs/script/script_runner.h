@@ -23,6 +23,9 @@ class ScriptRunner {
     // with their line numbers, to `errors`.
     ScriptRunner(std::ostream& out, std::ostream& errors);
 
+    // From now on a question that finds no queued answer fails, as an expectation does.
+    void expectAnswers();
+
     // Exit code: 0 all expectations held, 1 one failed, 2 the script is malformed and stopped at that line.
     int run(std::istream& script);
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <utility>
+#include <vector>
 
 #include "platform/text.h"
 
@@ -31,6 +32,13 @@ struct Font {
 enum class Alignment { left, right, centre };
 
 enum class ControlKind { textField, label, button, checkBox, frame, picture };
+
+// One row of the menu that the right mouse button opens on a control.
+struct MenuEntry {
+    Text caption;
+    bool enabled = true;
+    std::function<void()> onChoose;  // runs outside of the key road
+};
 
 // A control is told by its address: the window, the view and the handlers refer to it for its whole life.
 class Control {
@@ -61,6 +69,8 @@ class Control {
     std::function<void(int& code)> onKeyDown;             // a handler may change the code, 0 stops the field
     std::function<void(char16_t& character)> onKeyPress;  // likewise: 0 eats, 8 makes a Backspace of it
     std::function<void(int code)> onKeyUp;
+
+    std::function<std::vector<MenuEntry>()> menu;  // what its menu holds at this moment; none: no menu
 
     void click() { call(onClick); }
 

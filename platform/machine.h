@@ -15,6 +15,9 @@ class Clipboard {
     virtual ~Clipboard() = default;
     virtual void clear() = 0;
     virtual void setText(TextView text) = 0;
+
+    // Empty where it holds no text.
+    virtual Text text() const = 0;
 };
 
 class Sound {

@@ -34,56 +34,64 @@ void TextField::setTextFrom(std::size_t position, TextView text) {
 void TextField::select(std::size_t start, std::size_t length) {
     caret_ = std::min(start, text_.size());
     selection_ = std::min(length, text_.size() - caret_);
+    anchoredAtEnd_ = false;
 }
 
-void TextField::editByKey(int code) {
-    if (multiLine) {
-        switch (code) {
-            case keyCode::up:
-                return moveByLines(-1);
-            case keyCode::down:
-                return moveByLines(1);
-            case keyCode::pageUp:
-                return moveByLines(-pageLines);
-            case keyCode::pageDown:
-                return moveByLines(pageLines);
-            case keyCode::home:
-                return setCaret(lineStart(caret_));
-            case keyCode::end:
-                return setCaret(lineEnd(caret_));
-            default:
-                break;
-        }
+void TextField::editByKey(int code, bool selects) {
+    if (code == keyCode::del) {
+        if (!locked) replace(caret_, selection_ > 0 ? selection_ : behind(caret_) - caret_, u"");
+        return;
     }
+    if (selects) return extendSelection(code);
+    const bool byLines = multiLine && (code == keyCode::up || code == keyCode::down);
+    const bool back = code == keyCode::left || code == keyCode::up;
+    const bool on = code == keyCode::right || code == keyCode::down;
+    if (selection_ > 0 && !byLines && (back || on)) return setCaret(back ? caret_ : caret_ + selection_);
+    if (const auto position = moved(caret_, code)) setCaret(*position);
+}
+
+void TextField::extendSelection(int code) {
+    const std::size_t end = caret_ + selection_;
+    const std::size_t anchor = anchoredAtEnd_ ? end : caret_;
+    const auto position = moved(anchoredAtEnd_ ? caret_ : end, code);
+    if (!position) return;
+    const auto [first, last] = std::minmax(anchor, *position);
+    select(first, last - first);
+    anchoredAtEnd_ = *position < anchor;
+}
+
+// Where a key takes the caret from a position; nothing for a key that does not move it.
+std::optional<std::size_t> TextField::moved(std::size_t position, int code) const {
     switch (code) {
         case keyCode::left:
-        case keyCode::up:
-            return setCaret(selection_ > 0 ? caret_ : before(caret_));
+            return before(position);
         case keyCode::right:
+            return behind(position);
+        case keyCode::up:
+            return multiLine ? movedByLines(position, -1) : before(position);
         case keyCode::down:
-            return setCaret(selection_ > 0 ? caret_ + selection_ : behind(caret_));
+            return multiLine ? movedByLines(position, 1) : behind(position);
         case keyCode::home:
-            return setCaret(0);
+            return multiLine ? lineStart(position) : 0;
         case keyCode::end:
-            return caretToEnd();
-        case keyCode::del:
-            if (!locked) replace(caret_, selection_ > 0 ? selection_ : behind(caret_) - caret_, u"");
-            return;
+            return multiLine ? lineEnd(position) : text_.size();
         default:
-            return;
+            break;
     }
+    if (!multiLine || (code != keyCode::pageUp && code != keyCode::pageDown)) return std::nullopt;
+    return movedByLines(position, code == keyCode::pageUp ? -pageLines : pageLines);
 }
 
-void TextField::moveByLines(int lines) {
-    std::size_t start = lineStart(caret_);
-    const std::size_t column = caret_ - start;
+std::size_t TextField::movedByLines(std::size_t position, int lines) const {
+    std::size_t start = lineStart(position);
+    const std::size_t column = position - start;
     for (; lines < 0 && start > 0; ++lines) start = lineStart(start - 1);
     for (; lines > 0; --lines) {
         const std::size_t next = text_.find(u'\n', start);
         if (next == Text::npos) break;
         start = next + 1;
     }
-    setCaret(std::min(start + column, lineEnd(start)));
+    return std::min(start + column, lineEnd(start));
 }
 
 std::size_t TextField::lineStart(std::size_t position) const {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "platform/control.h"
@@ -62,8 +63,9 @@ class TextField : public Control {
     void caretToEnd() { setCaret(text_.size()); }
 
     // The field's own handling of an editing key: arrows, Home, End, Delete. A line end, CR LF, counts as one
-    // character; of several lines Home and End go to those of the line. Other codes do nothing.
-    void editByKey(int code);
+    // character; of several lines Home and End go to those of the line. Other codes do nothing. With
+    // `selects`, as with Shift held, a key that moves the caret takes the selection along from where it was.
+    void editByKey(int code, bool selects = false);
 
     // The field's own handling of a character that the key press left: 8 is a Backspace, printable ones enter
     // at the caret in place of the selection unless the field is locked or full, and so does 13 as a line end
@@ -82,7 +84,9 @@ class TextField : public Control {
   private:
     friend class TextFollower;
 
-    void moveByLines(int lines);
+    std::optional<std::size_t> moved(std::size_t position, int code) const;
+    std::size_t movedByLines(std::size_t position, int lines) const;
+    void extendSelection(int code);
     std::size_t lineStart(std::size_t position) const;
     std::size_t lineEnd(std::size_t position) const;
     std::size_t before(std::size_t position) const;
@@ -93,6 +97,7 @@ class TextField : public Control {
     Text text_;
     std::size_t caret_ = 0;
     std::size_t selection_ = 0;
+    bool anchoredAtEnd_ = false;  // the selection grew to the left: its start moves on
     std::vector<TextFollower*> followers_;
 };
 

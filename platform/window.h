@@ -33,8 +33,11 @@ class Window {
 
     std::function<void()> onMouseMove;  // over the window itself
     std::function<void()> onActivate;   // it has become the one in use
-    std::function<Text(TextView)>
-        onPaste;  // the characters to be typed for a pasted text; none: the text itself
+
+    // What the edit keys do here, none of them inside the key road; without onPaste a text is typed as it is.
+    std::function<void(TextView)> onPaste;
+    std::function<void()> onCopy, onCut, onUndo;
+
     std::function<void(BoxAnswer)>
         onAnswer;  // what a scripted answer does to it; none: it stays until the script closes it
     std::function<void()> onDismiss;  // the user closes it by other means than its controls

@@ -1,95 +1,505 @@
 #include "shell/pasted_text.h"
 
 #include <algorithm>
-#include <vector>
+#include <array>
+#include <utility>
+
+#include "shell/pasted_number.h"
 
 namespace zifferon {
 
 namespace {
 
-constexpr TextView lineEnds = u"\r\n\t";
-constexpr TextView blanks = u" \u00A0";
+// The entry takes no more by typing.
+constexpr std::size_t longestFigure = 25;
+
+constexpr char16_t groupBlank = u'\u00A0';
+constexpr char16_t enDash = u'\u2013', emDash = u'\u2014';
+
+enum class Kind { end, number, sign, times, currency, open, close, word, blank, point, other };
+
+struct Piece {
+    Kind kind;
+    TextView text;
+};
 
 bool isDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-
-TextView trimmed(TextView text) {
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == TextView::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+bool isPoint(char16_t unit) { return unit == u',' || unit == u'.'; }
+bool isDash(char16_t unit) { return unit == u'-' || unit == enDash || unit == emDash; }
+bool isLetter(char16_t unit) {
+    return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z') || unit >= 0xC0;
 }
 
-std::vector<TextView> cellsOf(TextView text) {
-    std::vector<TextView> cells;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find_first_of(lineEnds), text.size());
-        if (const TextView cell = trimmed(text.substr(0, end)); !cell.empty()) cells.push_back(cell);
-        text.remove_prefix(std::min(end + 1, text.size()));
+// Signs that mean the same become one; marks that are not seen become 0.
+char16_t folded(char16_t unit) {
+    for (const int zero : {0x0660, 0x06F0, 0xFF10}) {
+        if (unit >= zero && unit < zero + 10) return static_cast<char16_t>(u'0' + unit - zero);
     }
-    return cells;
+    if (contains(u"\u00AD\u200B\u200C\u200D\u200E\u200F\u2060\uFEFF", {&unit, 1})) return 0;
+    if (contains(u"\u202F\u2007\u2009", {&unit, 1})) return groupBlank;
+    if (contains(u"\r\v\f\u0085\u2028\u2029", {&unit, 1})) return u'\n';
+    if (contains(u"\"«»„“”‚‘‹›•\u2002\u2003\u200A\u3000", {&unit, 1})) return u' ';
+    switch (unit) {
+        case u'\u2212':
+            return u'-';
+        case u'×':
+            return u'*';
+        case u'÷':
+            return u'/';
+        case u'’':
+            return u'\'';
+        default:
+            return unit;
+    }
 }
 
-// Whether the signs of that kind stand where group signs do: behind one to three digits, and before three
-// each.
-bool groups(TextView number, char16_t sign) {
-    std::size_t digits = number.find(sign);
-    if (digits == 0 || digits > 3) return false;
-    while (!number.empty()) {
-        number.remove_prefix(digits + 1);
-        digits = std::min(number.find(sign), number.size());
-        if (digits != 3) return false;
-        if (digits == number.size()) break;
-    }
-    return true;
+Kind kindOf(char16_t unit) {
+    if (isDigit(unit)) return Kind::number;
+    if (contains(u"\t;|", {&unit, 1})) return Kind::end;
+    if (unit == u' ' || unit == groupBlank) return Kind::blank;
+    if (unit == u'+' || unit == u'-' || unit == enDash) return Kind::sign;
+    if (unit == u'*' || unit == u'/') return Kind::times;
+    if (contains(u"$£¥", {&unit, 1}) || (unit >= 0x20A0 && unit <= 0x20CF)) return Kind::currency;
+    if (unit == u'(') return Kind::open;
+    if (unit == u')') return Kind::close;
+    if (contains(u",.!?'…", {&unit, 1})) return Kind::point;
+    const bool mark = unit >= 0x2010 && unit <= 0x2BFF;
+    return isLetter(unit) && !mark ? Kind::word : Kind::other;
 }
 
-// The decimal sign of digits with commas and points among them, or 0 for none.
-char16_t decimalSignOf(TextView number, Separators separators) {
-    const std::size_t last = number.find_last_of(u",.");
-    if (last == TextView::npos) return 0;
-    const char16_t sign = number[last];
-    const TextView before = number.substr(0, last);
-    const bool alone = before.find_first_of(u",.") == TextView::npos;
-    if (alone && sign == separators.group && groups(number, sign)) return 0;
-    if (!alone && before.find(sign) != TextView::npos) return groups(number, sign) ? 0 : sign;
-    return sign;
+// Words in lower case with a blank around each. A month may stand on either side of a day or a year.
+constexpr TextView months =
+    u" januar jan january jänner februar feb february märz mär mrz march mar april apr mai may juni jun june"
+    u" juli jul july august aug september sep sept oktober okt october oct november nov dezember dez december"
+    u" dec ";
+constexpr TextView labels =
+    u" nr no num pos art artikel re rg seite page tel telefon phone fax mobil plz iban bic blz kto konto kd"
+    u" kdnr ust ustid id version ver v kw x ";
+constexpr TextView units =
+    u" uhr h am pm x prozent percent pct tausend tsd thousand mio mrd million millionen millions milliarde"
+    u" milliarden billion billions cent cents ct ";
+constexpr TextView currencies =
+    u" eur euro euros usd chf gbp jpy sek nok dkk pln czk huf cny inr aud cad try dm sfr fr rs kr kč zł ft ";
+
+bool listed(TextView list, TextView word) {
+    constexpr std::size_t longest = 12;
+    if (word.size() > longest) return false;
+    Text inBlanks(1, u' ');
+    inBlanks.append(word).append(1, u' ');
+    for (char16_t& unit : inBlanks) {
+        const bool capital = (unit >= u'A' && unit <= u'Z') || (unit >= 0xC0 && unit <= 0xDE);
+        if (capital) unit = static_cast<char16_t>(unit + 0x20);
+    }
+    return contains(list, inBlanks);
 }
 
-// The digits and the one separator of a number, its minus as the letter v; empty for what is no number.
-Text typedNumber(TextView cell, Separators separators) {
-    const bool minusInFront = cell.starts_with(u'-') || cell.starts_with(u'\u2212');
-    const bool minusBehind = !minusInFront && cell.ends_with(u'-');
-    if (minusInFront) cell = trimmed(cell.substr(1));
-    if (minusBehind) cell = trimmed(cell.substr(0, cell.size() - 1));
-    const auto belongs = [](char16_t unit) { return isDigit(unit) || unit == u',' || unit == u'.'; };
-    if (!std::all_of(cell.begin(), cell.end(), belongs) || !std::any_of(cell.begin(), cell.end(), isDigit)) {
-        return {};
+// The pieces of one line, an end before and behind them.
+class Lexer {
+  public:
+    explicit Lexer(TextView line) : line_(line) {}
+
+    std::vector<Piece> pieces() {
+        std::vector<Piece> found{{Kind::end, {}}};
+        while (at_ < line_.size()) found.push_back(next());
+        found.push_back({Kind::end, {}});
+        return found;
     }
-    const char16_t decimalSign = decimalSignOf(cell, separators);
-    const char16_t groupSign = decimalSign == u',' ? u'.' : decimalSign == u'.' ? u',' : separators.group;
-    const TextView whole = cell.substr(0, decimalSign != 0 ? cell.rfind(decimalSign) : cell.size());
-    if (whole.find(groupSign) != TextView::npos && !groups(whole, groupSign)) return {};
-    if (decimalSign != 0 && whole.find(decimalSign) != TextView::npos) return {};
-    Text typed;
-    for (const char16_t unit : cell) {
-        if (isDigit(unit)) typed += unit;
-        if (decimalSign != 0 && unit == decimalSign) typed += separators.decimal;
+
+  private:
+    Piece next() {
+        const std::size_t start = at_;
+        Kind kind = kindOf(line_[at_]);
+        const bool startsFraction = isPoint(line_[at_]) && digitsFrom(at_ + 1) > 0 &&
+                                    (at_ == 0 || !isLetter(line_[at_ - 1])) &&
+                                    (at_ == 0 || !isPoint(line_[at_ - 1]));
+        if (kind == Kind::number || startsFraction) {
+            kind = Kind::number;
+            passNumber();
+        } else if (kind == Kind::word) {
+            passWord();
+        } else {
+            ++at_;
+            while (kind == Kind::blank && at_ < line_.size() && kindOf(line_[at_]) == kind) ++at_;
+        }
+        const TextView text = line_.substr(start, at_ - start);
+        if (kind == Kind::word && listed(currencies, text)) kind = Kind::currency;
+        return {kind, text};
     }
-    if (minusInFront || minusBehind) typed += u'v';
-    return typed;
-}
+
+    void passNumber() {
+        at_ += digitsFrom(at_);
+        while (at_ < line_.size()) {
+            const char16_t unit = line_[at_];
+            const std::size_t digits = digitsFrom(at_ + 1);
+            const bool inside = isPoint(unit) || unit == u'\'' || (unit == groupBlank && digits == 3);
+            if (!inside || digits == 0) break;
+            at_ += 1 + digits;
+        }
+        passNoCents();
+    }
+
+    void passNoCents() {
+        if (at_ + 1 >= line_.size() || !isPoint(line_[at_]) || !isDash(line_[at_ + 1])) return;
+        std::size_t end = at_ + 1;
+        while (end < line_.size() && isDash(line_[end]) && end - at_ <= 2) ++end;
+        if (digitsFrom(end) == 0) at_ = end;
+    }
+
+    // A dash between two letters belongs to the word.
+    void passWord() {
+        while (at_ < line_.size()) {
+            const bool joined = isDash(line_[at_]) && at_ + 1 < line_.size() && isLetter(line_[at_ + 1]);
+            if (kindOf(line_[at_]) != Kind::word && !joined) break;
+            ++at_;
+        }
+    }
+
+    std::size_t digitsFrom(std::size_t start) const {
+        std::size_t end = start;
+        while (end < line_.size() && isDigit(line_[end])) ++end;
+        return end - start;
+    }
+
+    TextView line_;
+    std::size_t at_ = 0;
+};
+
+// Merged are the numbers of a cell that can only be one, its groups parted by plain blanks; where they may be
+// several, none of them is certain.
+class BlankGroups {
+  public:
+    explicit BlankGroups(std::vector<Piece>& pieces) : pieces_(pieces) {}
+
+    void settle() {
+        std::vector<Piece> settled;
+        settled.reserve(pieces_.size());
+        std::size_t cell = 0;
+        for (std::size_t i = 0; i < pieces_.size(); ++i) {
+            if (pieces_[i].kind != Kind::end) continue;
+            settleCell(cell, i, settled);
+            cell = i;
+        }
+        settled.push_back(pieces_.back());
+        pieces_ = std::move(settled);
+    }
+
+  private:
+    static bool bare(TextView text) { return std::all_of(text.begin(), text.end(), isDigit); }
+
+    static bool continues(const Piece& piece) {
+        return piece.kind == Kind::number && piece.text.size() >= 3 && bare(piece.text.substr(0, 3)) &&
+               (piece.text.size() == 3 || isPoint(piece.text[3]));
+    }
+
+    bool begins(std::size_t i) const {
+        const Piece& piece = pieces_[i];
+        return piece.kind == Kind::number && piece.text.size() <= 3 && bare(piece.text) &&
+               piece.text.front() != u'0';
+    }
+
+    std::size_t endOfGroups(std::size_t i) const {
+        if (!begins(i)) return i;
+        while (bare(pieces_[i].text) && i + 2 < pieces_.size() && pieces_[i + 1].text == u" " &&
+               continues(pieces_[i + 2])) {
+            i += 2;
+        }
+        return i;
+    }
+
+    void settleCell(std::size_t start, std::size_t end, std::vector<Piece>& settled) const {
+        const auto numbers = std::count_if(pieces_.begin() + std::ptrdiff_t(start),
+                                           pieces_.begin() + std::ptrdiff_t(end),
+                                           [](const Piece& piece) { return piece.kind == Kind::number; });
+        for (std::size_t i = start; i < end; ++i) {
+            const std::size_t last = endOfGroups(i);
+            if (last == i) {
+                settled.push_back(pieces_[i]);
+                continue;
+            }
+            const bool amount = !bare(pieces_[last].text) || pieces_[i - 1].kind == Kind::currency ||
+                                currencyNear(last + 1) || currencyBefore(i);
+            const bool alone = std::size_t(numbers) == (last - i) / 2 + 1;
+            const TextView first = pieces_[i].text, final = pieces_[last].text;
+            const auto length = static_cast<std::size_t>(final.data() + final.size() - first.data());
+            settled.push_back({alone && amount ? Kind::number : Kind::other, {first.data(), length}});
+            i = last;
+        }
+    }
+
+    bool currencyNear(std::size_t i) const {
+        if (pieces_[i].kind == Kind::blank) ++i;
+        return pieces_[i].kind == Kind::currency;
+    }
+    bool currencyBefore(std::size_t i) const {
+        return i >= 2 && pieces_[i - 1].kind == Kind::blank && pieces_[i - 2].kind == Kind::currency;
+    }
+
+    std::vector<Piece>& pieces_;
+};
+
+// A number with what belongs to it: sign, currency, brackets.
+struct Reading {
+    std::size_t first, last;  // pieces
+    std::size_t bound;        // the last piece of the number before, or 0
+    PastedFigure figure;
+    bool certain = true;
+    bool bare = false;  // digits alone, which may as well be a count or a code
+    bool isSigned = false, hasCurrency = false, opened = false, closed = false;
+};
+
+class Line {
+  public:
+    Line(TextView line, Separators separators) : separators_(separators), pieces_(Lexer(line).pieces()) {
+        BlankGroups(pieces_).settle();
+    }
+
+    void addTo(PastedFigures& found) {
+        findDates();
+        read();
+        found.leftOut = found.leftOut || hasDoubtfulGroups_;
+        bool leftStands = false;
+        for (std::size_t i = 0; i < readings_.size(); ++i) {
+            Reading& reading = readings_[i];
+            char16_t& operation = reading.figure.operation;
+            const bool needsLeft = operation != 0 && operation != u'+';
+            const bool certain = reading.certain && !mayBeNoAmount(i) && (leftStands || !needsLeft);
+            if (!leftStands) operation = 0;
+            leftStands = certain;
+            if (certain) {
+                found.figures.push_back(std::move(reading.figure));
+            } else {
+                found.leftOut = true;
+            }
+        }
+    }
+
+  private:
+    Kind kind(std::size_t i) const { return pieces_[i].kind; }
+    TextView text(std::size_t i) const { return pieces_[i].text; }
+    bool is(std::size_t i, TextView wanted) const { return text(i) == wanted; }
+    std::size_t before(std::size_t i) const { return kind(i - 1) == Kind::blank ? i - 2 : i - 1; }
+    std::size_t behind(std::size_t i) const { return kind(i + 1) == Kind::blank ? i + 2 : i + 1; }
+    bool oneOf(std::size_t i, std::initializer_list<Kind> kinds) const {
+        return std::find(kinds.begin(), kinds.end(), kind(i)) != kinds.end();
+    }
+    bool bare(std::size_t i) const {
+        return kind(i) == Kind::number && std::all_of(text(i).begin(), text(i).end(), isDigit);
+    }
+
+    // A bare number's value where it can be part of a date, else 0.
+    int datePart(std::size_t i) const {
+        if (!bare(i) || text(i).size() > 4) return 0;
+        int value = 0;
+        for (const char16_t digit : text(i)) value = 10 * value + (digit - u'0');
+        return value;
+    }
+    bool isDayOrMonth(std::size_t i) const {
+        return text(i).size() <= 2 && datePart(i) >= 1 && datePart(i) <= 31;
+    }
+    bool isYear(std::size_t i) const {
+        return text(i).size() == 4 && datePart(i) >= 1900 && datePart(i) < 2100;
+    }
+
+    void findDates() {
+        date_.assign(pieces_.size(), false);
+        for (std::size_t i = 1; i + 2 < pieces_.size(); ++i) {
+            const bool parted = oneOf(i + 1, {Kind::sign, Kind::times}) && !is(i + 1, u"+") && !is(i + 1, u"*");
+            if (!parted || !bare(i) || !bare(i + 2)) continue;
+            const bool years = isYear(i) && isYear(i + 2);
+            const bool monthAndYear = isDayOrMonth(i) && datePart(i) <= 12 && isYear(i + 2);
+            if (years || monthAndYear) date_[i] = date_[i + 2] = true;
+            if (i + 4 >= pieces_.size() || !is(i + 3, text(i + 1)) || !bare(i + 4)) continue;
+            const bool yearFirst = isYear(i) && isDayOrMonth(i + 2) && isDayOrMonth(i + 4);
+            const bool yearLast = isDayOrMonth(i) && isDayOrMonth(i + 2) &&
+                                  std::min(datePart(i), datePart(i + 2)) <= 12 &&
+                                  (isYear(i + 4) || text(i + 4).size() == 2);
+            if (yearFirst || yearLast) date_[i] = date_[i + 2] = date_[i + 4] = true;
+        }
+    }
+
+    void read() {
+        std::size_t bound = 0;
+        for (std::size_t i = 1; i + 1 < pieces_.size(); ++i) {
+            hasWords_ = hasWords_ || kind(i) == Kind::word;
+            // Numbers in groups that may be several.
+            hasDoubtfulGroups_ = hasDoubtfulGroups_ || (kind(i) == Kind::other && isDigit(text(i).front()));
+            if (kind(i) != Kind::number) continue;
+            Reading reading{i, i, bound, {}};
+            reading.figure.digits = typedDigits(text(i), separators_);
+            takeBefore(reading);
+            takeBehind(reading);
+            if (reading.closed && !reading.isSigned) reading.figure.negative = true;
+            const std::size_t joint = before(reading.first);
+            const bool joins = bound != 0 && oneOf(joint, {Kind::sign, Kind::times}) && before(joint) == bound;
+            if (joins) reading.figure.operation = text(joint).front();
+            judge(reading, i);
+            bound = reading.last;
+            readings_.push_back(std::move(reading));
+        }
+    }
+
+    // A sign belongs to the number behind it, but for one that stands between two numbers.
+    void takeBefore(Reading& r) const {
+        for (;;) {
+            const std::size_t piece = before(r.first);
+            if (piece <= r.bound) return;
+            const bool glued = piece + 1 == r.first;
+            if (kind(piece) == Kind::currency && !r.hasCurrency) {
+                r.hasCurrency = true;
+            } else if (kind(piece) == Kind::sign && !r.isSigned) {
+                const std::size_t previous = before(piece);
+                if (previous == r.bound && r.bound != 0) return;
+                if (!glued && !oneOf(previous, {Kind::end, Kind::open})) return;
+                r.isSigned = true;
+                r.figure.negative = !is(piece, u"+");
+            } else if (kind(piece) == Kind::open && !r.opened) {
+                r.opened = true;
+            } else {
+                return;
+            }
+            r.first = piece;
+        }
+    }
+
+    void takeBehind(Reading& r) const {
+        for (;;) {
+            const std::size_t piece = behind(r.last);
+            const bool glued = piece == r.last + 1;
+            if (kind(piece) == Kind::currency && !r.hasCurrency) {
+                if (!glued && kind(piece + 1) == Kind::number) return;
+                r.hasCurrency = true;
+            } else if (kind(piece) == Kind::sign && !r.isSigned) {
+                const bool ends = oneOf(behind(piece), {Kind::end, Kind::close});
+                const bool gluedBehind = glued && oneOf(piece + 1, {Kind::blank, Kind::end, Kind::close, Kind::point});
+                if (!gluedBehind && !(ends && is(piece, u"+"))) return;
+                r.isSigned = true;
+                r.figure.negative = !is(piece, u"+");
+            } else if (kind(piece) == Kind::close && r.opened && !r.closed) {
+                r.closed = true;
+            } else {
+                return;
+            }
+            r.last = piece;
+        }
+    }
+
+    void judge(Reading& r, std::size_t number) {
+        const bool code = gluedToLetters(r) ||
+                          (bare(number) && text(number).size() > 1 && text(number).front() == u'0');
+        hasCode_ = hasCode_ || code;
+        r.bare = bare(number) && !r.hasCurrency;
+        const bool readable = !r.figure.digits.empty() && r.figure.digits.size() <= longestFigure;
+        r.certain = readable && !code && !date_[number] && r.opened == r.closed && certainInFront(r, number) &&
+                    certainBehind(r, number);
+        hasAmounts_ = hasAmounts_ || (r.certain && !r.bare);
+    }
+
+    // Which makes a code or a quantity of it: H2, 1e3, Nr.5.
+    bool gluedToLetters(const Reading& r) const {
+        const std::size_t left = r.first - 1, right = r.last + 1;
+        const auto codes = {Kind::word, Kind::number};
+        const bool dollarOfACountry = kind(r.first) == Kind::currency && !isLetter(text(r.first).front());
+        if ((oneOf(left, codes) && !dollarOfACountry) || oneOf(right, codes)) return true;
+        if (kind(left) == Kind::point && oneOf(left - 1, codes)) return true;
+        return kind(right) == Kind::point && oneOf(right + 1, codes);
+    }
+
+    bool certainInFront(const Reading& r, std::size_t number) const {
+        const std::size_t left = before(r.first);
+        const bool dash = is(left, TextView(&enDash, 1));
+        if (r.figure.operation != 0) return !dash && !r.closed;
+        if (left == r.bound && left != 0) return left + 1 != r.first;
+        if (oneOf(left, {Kind::sign, Kind::times, Kind::open})) return false;
+        if (kind(left) == Kind::close && left + 1 == r.first) return false;
+        const bool colon = is(left, u":");
+        if (colon && oneOf(left - 1, {Kind::number, Kind::end, Kind::other})) return false;
+        if (kind(left) == Kind::other && !colon && !is(left, u"&")) return false;
+        std::size_t word = left;
+        while (kind(word) == Kind::point || is(word, u":")) word = before(word);
+        if (kind(word) != Kind::word) return true;
+        const bool dated = (isYear(number) || isDayOrMonth(number)) && listed(months, text(word));
+        return !dated && !listed(labels, text(word));
+    }
+
+    bool certainBehind(const Reading& r, std::size_t number) const {
+        const std::size_t right = behind(r.last);
+        switch (kind(right)) {
+            case Kind::other:
+                if (is(right, u"=")) return kind(behind(right)) != Kind::end || r.figure.operation != 0;
+                return is(right, u"&");
+            case Kind::word:
+                return !listed(units, text(right)) && !(isDayOrMonth(number) && listed(months, text(right)));
+            case Kind::open:
+                return right > r.last + 1;
+            case Kind::close:
+                return false;
+            case Kind::point:
+                return !(is(right, u".") && (isOrdinal(number, right) || isDay(text(number))));
+            case Kind::sign:
+            case Kind::times:
+                return certainBeforeJoint(r, right);
+            default:
+                return true;
+        }
+    }
+
+    // An operator, or a dash between words.
+    bool certainBeforeJoint(const Reading& r, std::size_t joint) const {
+        const std::size_t next = behind(joint);
+        const bool range = is(joint, TextView(&enDash, 1)) && kind(next) == Kind::number;
+        if (range || oneOf(next, {Kind::end, Kind::close})) return false;
+        const bool compound = kind(joint) == Kind::sign && joint == r.last + 1 && kind(joint + 1) == Kind::word;
+        if (compound) return false;
+        const bool dashes = kind(joint) == Kind::sign && kind(next) == Kind::sign &&
+                            oneOf(next + 1, {Kind::blank, Kind::end});
+        if (dashes) return false;
+        const bool joins = oneOf(next, {Kind::number, Kind::currency, Kind::sign, Kind::open});
+        return !(joins && r.closed);
+    }
+
+    // "1. Miete", "12. März"
+    bool isOrdinal(std::size_t number, std::size_t point) const {
+        return bare(number) && kind(behind(point)) != Kind::end;
+    }
+
+    // "12.03" before another point
+    static bool isDay(TextView number) {
+        const std::size_t point = number.find(u'.');
+        if (point == TextView::npos || point > 2 || number.size() != point + 3) return false;
+        return number.substr(point + 1) <= u"12" && (point == 1 || number.substr(0, 2) <= u"31");
+    }
+
+    // Bare digits beside amounts in a text, or beside a code: a count, a number of something, a part of the
+    // code.
+    bool mayBeNoAmount(std::size_t i) const {
+        const Reading& r = readings_[i];
+        const bool joined =
+            r.figure.operation != 0 || (i + 1 < readings_.size() && readings_[i + 1].figure.operation != 0);
+        return r.bare && !joined && (hasCode_ || (hasWords_ && (hasAmounts_ || r.closed)));
+    }
+
+    Separators separators_;
+    std::vector<Piece> pieces_;
+    std::vector<bool> date_;
+    std::vector<Reading> readings_;
+    bool hasWords_ = false, hasAmounts_ = false, hasCode_ = false, hasDoubtfulGroups_ = false;
+};
 
 }  // namespace
 
-Text keysOfPastedText(TextView pasted, Separators separators) {
-    const std::vector<TextView> cells = cellsOf(pasted);
-    Text keys;
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-        const bool last = i + 1 == cells.size();
-        const Text number = typedNumber(cells[i], separators);
-        keys += number.empty() ? Text(cells[i]) : number;
-        if (!last) keys += number.empty() ? u'\r' : u'+';
+PastedFigures figuresOf(TextView pasted, Separators separators) {
+    Text text;
+    text.reserve(pasted.size());
+    for (const char16_t unit : pasted) {
+        if (const char16_t plain = folded(unit)) text += plain;
     }
-    return keys;
+    PastedFigures found;
+    for (TextView rest = text; !rest.empty();) {
+        const std::size_t end = std::min(rest.find(u'\n'), rest.size());
+        Line(rest.substr(0, end), separators).addTo(found);
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return found;
 }
 
 }  // namespace zifferon

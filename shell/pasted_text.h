@@ -1,17 +1,26 @@
-// What is typed for a pasted text. Its characters take the road of typed keys, where a point would become the
-// separator in use and a sign in front an operator: so figures are brought into the form in which a person
-// types them.
+// The figures in a pasted text, whatever program or person wrote it: a column, a table, a calculation, a
+// letter. What is not certainly a figure is left out: no figure is better than a wrong one.
 #pragma once
+
+#include <vector>
 
 #include "core/number_text.h"
 #include "platform/text.h"
 
 namespace zifferon {
 
-// The characters to be typed, 13 for Enter. A number loses its group signs and gets its minus as the sign key
-// behind it; a comma or point that stands before a last group of other than three digits is its decimal sign,
-// and so is the latter of two kinds. The numbers of several lines or cells are added up, the last one waits
-// for the user's key; what is no number is typed as it stands, with Enter behind its line.
-Text keysOfPastedText(TextView pasted, Separators separators);
+struct PastedFigure {
+    char16_t operation = 0;  // + - * / between the figure before and this one; 0: none, they are a column
+    Text digits;             // and the one separator in use, as they are typed
+    bool negative = false;
+};
+
+struct PastedFigures {
+    std::vector<PastedFigure> figures;
+    bool leftOut = false;  // the text has digits that are not certainly a figure: a date, a time, a code
+};
+
+// Takes time in proportion to the text.
+PastedFigures figuresOf(TextView pasted, Separators separators);
 
 }  // namespace zifferon

@@ -9,7 +9,6 @@
 #include "shell/colour_schemes.h"
 #include "shell/language.h"
 #include "shell/locale.h"
-#include "shell/pasted_text.h"
 #include "shell/send_keys.h"
 #include "shell/settings_files.h"
 #include "shell/write_protection.h"
@@ -27,7 +26,8 @@ Program::Program(Machine& machine)
       page_(pultform.state, pultform.page, pultform.stripes, pultform, machine.boxes, alwaysOnTopFile()),
       helpDesk_(pultform, kopf, help, machine,
                 [this](const std::string& file, float value) { store(file, value); }),
-      commands_{pultform.state, pultform, machine.boxes, {}} {
+      commands_{pultform.state, pultform, machine.boxes, {}},
+      editing_(pultform, keys, machine) {
     wireCalls();
     wireCommands();
     wireEntry();
@@ -39,6 +39,7 @@ Program::Program(Machine& machine)
     cells_.wire();
     page_.wire();
     helpDesk_.wire();
+    editing_.wire();
 }
 
 void Program::beginFresh() {
@@ -60,13 +61,6 @@ void Program::showNothingToUndo() {
 }
 
 namespace {
-
-// The print copy takes a text as it stands, with one Enter for each line end.
-Text keysOfPastedLines(TextView pasted) {
-    Text keys(pasted);
-    std::erase(keys, u'\r');
-    return keys;
-}
 
 // The tape has the focus only while it is paged; any other key and the mouse give it back.
 void wireTapePaging(CalculatorState& s) {
@@ -184,10 +178,6 @@ void Program::wireEntry() {
 
 void Program::wireFields() {
     CalculatorState& s = pultform.state;
-    pultform.onPaste = [this, &s](TextView pasted) {
-        return pultform.focus() == &s.superdruck ? keysOfPastedLines(pasted)
-                                                 : keysOfPastedText(pasted, s.separators());
-    };
     s.anzeige.onChange = [this, &s] {
         playTapeSound();
         undo_.anzeigeChanged();

@@ -11,6 +11,7 @@
 #include "platform/key_road.h"
 #include "platform/machine.h"
 #include "print/kopf.h"
+#include "shell/edit_commands.h"
 #include "shell/help_desk.h"
 #include "shell/life_cycle.h"
 #include "shell/pultform.h"
@@ -66,6 +67,7 @@ class Program {
     TapePage page_;
     HelpDesk helpDesk_;
     CommandDesk commands_;
+    EditCommands editing_;
 };
 
 }  // namespace zifferon

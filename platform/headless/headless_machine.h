@@ -37,7 +37,6 @@ class HeadlessMachine : public Boxes,
     // The lines of the log that nobody has taken yet, oldest first. Of very many only the newest are kept.
     std::deque<std::string>& events() { return events_; }
 
-    const Text& clipboardText() const { return clipboard_; }
     // A new program on the same machine: no timer of the former one is due, and the clipboard is empty.
     void beginAnew();
 
@@ -59,6 +58,7 @@ class HeadlessMachine : public Boxes,
     BoxAnswer show(const Box& box) override;
     void clear() override;
     void setText(TextView text) override;
+    Text text() const override { return clipboard_; }
     void beep() override;
     void play(const std::string& fileName) override;
     void show(Window& window) override;

@@ -1,5 +1,6 @@
 #include "platform/qt/control_view.h"
 
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <utility>
 
@@ -86,6 +87,8 @@ bool ControlView::eventFilter(QObject* surface, QEvent* event) {
     const auto position = [event] { return static_cast<QMouseEvent*>(event)->position().toPoint(); };
     switch (event->type()) {
         case QEvent::MouseButtonPress:
+            // A right button opens the menu of what is selected.
+            if (control_.menu && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) return true;
             clickPending_ = !button && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
             mousePressed(position());
             form_.run(control_.onMouseDown);
@@ -100,6 +103,10 @@ bool ControlView::eventFilter(QObject* surface, QEvent* event) {
             if (std::exchange(clickPending_, false) && inside) form_.run(control_.onClick);
             return !button;
         }
+        case QEvent::ContextMenu:
+            if (!control_.menu) return false;
+            form_.openMenu(control_, static_cast<QContextMenuEvent*>(event)->globalPos());
+            return true;
         case QEvent::MouseButtonDblClick:
             form_.run(control_.onDoubleClick);
             return !button;

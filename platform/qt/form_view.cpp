@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -124,6 +125,22 @@ void FormView::press(Control& control) {
             control.click();
         }
     });
+}
+
+void FormView::openMenu(Control& control, QPoint position) {
+    keyEvents_.letGoOfAll();
+    if (control.takesFocus) run([&] { window_.setFocus(control); });
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (MenuEntry& entry : control.menu()) {
+        const auto chosen = [this, choose = std::move(entry.onChoose)] {
+            settleActivation();
+            choose();
+            refreshAll();
+        };
+        menu->addAction(toQString(entry.caption), this, chosen)->setEnabled(entry.enabled);
+    }
+    menu->popup(position);
 }
 
 bool FormView::event(QEvent* event) {

@@ -52,6 +52,10 @@ class FormView : public QWidget {
     // What a click on a button or check box does, by mouse or access key.
     void press(Control& control);
 
+    // The menu of a control, at a point of the screen; a control that takes the focus gets it. Keys that are
+    // down are let go: the menu takes the keyboard.
+    void openMenu(Control& control, QPoint position);
+
     Window& window() const { return window_; }
 
   private:

@@ -17,12 +17,37 @@ Qt::KeyboardModifiers commandModifiers(const QKeyEvent& event) {
     return event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
 }
 
-bool isPaste(const QKeyEvent& event) {
+bool onKeypad(const QKeyEvent& event) { return event.modifiers() & Qt::KeypadModifier; }
+
+// The keys that edit in every program, by the letter pressed with Ctrl; 0: none of them.
+int editingLetter(const QKeyEvent& event) {
     const bool shift = event.modifiers() & Qt::ShiftModifier;
-    if (event.key() == Qt::Key_Insert) return shift && !commandModifiers(event);
-    return event.key() == Qt::Key_Paste ||
-           (event.key() == Qt::Key_V && !shift && commandModifiers(event) == Qt::ControlModifier);
+    const bool control = commandModifiers(event) == Qt::ControlModifier;
+    switch (event.key()) {
+        case Qt::Key_Insert:
+            if (onKeypad(event)) return 0;
+            if (control && !shift) return Qt::Key_C;
+            return shift && !commandModifiers(event) ? Qt::Key_V : 0;
+        case Qt::Key_Copy:
+            return Qt::Key_C;
+        case Qt::Key_Cut:
+            return Qt::Key_X;
+        case Qt::Key_Paste:
+            return Qt::Key_V;
+        case Qt::Key_Undo:
+            return Qt::Key_Z;
+        default:
+            return control && !shift ? event.key() : 0;
+    }
 }
+
+bool moves(int code) { return code >= keyCode::pageUp && code <= keyCode::down; }
+
+bool movesInLine(int code) {
+    return code == keyCode::left || code == keyCode::right || code == keyCode::home || code == keyCode::end;
+}
+
+bool isFunctionKey(int code) { return code >= keyCode::f1 && code <= keyCode::f1 + 15; }
 
 std::optional<Key> namedKey(int key) {
     if (key >= Qt::Key_F1 && key <= Qt::Key_F16) return Key{keyCode::f1 + key - Qt::Key_F1};
@@ -59,8 +84,29 @@ std::optional<Key> namedKey(int key) {
     }
 }
 
-std::optional<Key> keypadOperator(int key) {
+// With and without NumLock; without it the keys of the keypad have the names of those that move.
+std::optional<Key> keypadKey(int key) {
     switch (key) {
+        case Qt::Key_Insert:
+            return keyOfCharacter(u'0');
+        case Qt::Key_End:
+            return keyOfCharacter(u'1');
+        case Qt::Key_Down:
+            return keyOfCharacter(u'2');
+        case Qt::Key_PageDown:
+            return keyOfCharacter(u'3');
+        case Qt::Key_Left:
+            return keyOfCharacter(u'4');
+        case Qt::Key_Clear:
+            return keyOfCharacter(u'5');
+        case Qt::Key_Right:
+            return keyOfCharacter(u'6');
+        case Qt::Key_Home:
+            return keyOfCharacter(u'7');
+        case Qt::Key_Up:
+            return keyOfCharacter(u'8');
+        case Qt::Key_PageUp:
+            return keyOfCharacter(u'9');
         case Qt::Key_Asterisk:
             return Key{keyCode::multiply, u'*'};
         case Qt::Key_Plus:
@@ -70,6 +116,7 @@ std::optional<Key> keypadOperator(int key) {
         case Qt::Key_Slash:
             return Key{keyCode::divide, u'/'};
         case Qt::Key_Comma:
+        case Qt::Key_Delete:
             return Key{keyCode::decimal, u','};
         case Qt::Key_Period:
             return Key{keyCode::decimal, u'.'};
@@ -100,11 +147,14 @@ std::optional<Key> keyOf(const QKeyEvent& event) {
     if (commandModifiers(event) == Qt::ControlModifier && event.key() == Qt::Key_R) {
         return Key{keyOfCharacter(u'R').code, 18};
     }
-    if (commandModifiers(event)) return std::nullopt;
-    if (const auto named = namedKey(event.key())) return named;
-    if (event.modifiers() & Qt::KeypadModifier) {
-        if (const auto keypad = keypadOperator(event.key())) return keypad;
+    if (onKeypad(event) && !commandModifiers(event)) {
+        if (const auto keypad = keypadKey(event.key())) return keypad;
     }
+    const auto named = onKeypad(event) && commandModifiers(event) ? std::nullopt : namedKey(event.key());
+    const bool closesWindow = event.key() == Qt::Key_F4 && commandModifiers(event) == Qt::AltModifier;
+    const bool actsWithAll = named && !closesWindow && (moves(named->code) || isFunctionKey(named->code));
+    if (commandModifiers(event)) return actsWithAll ? named : std::nullopt;
+    if (named) return named;
     return event.text().size() == 1 ? typedKey(event.text().front()) : std::nullopt;
 }
 
@@ -117,10 +167,7 @@ KeyEvents::KeyEvents(FormView& form, KeyRoad& keys) : form_(form), keys_(keys) {
 
 bool KeyEvents::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() == QEvent::WindowDeactivate && receiver == &form_) {
-        held_.clear();
-        release_.reset();
-        keys_.releaseAll();
-        FormView::refreshAll();
+        letGoOfAll();
         return false;
     }
     auto* const widget = qobject_cast<QWidget*>(receiver);
@@ -148,6 +195,13 @@ bool KeyEvents::eventFilter(QObject* receiver, QEvent* event) {
     return true;
 }
 
+void KeyEvents::letGoOfAll() {
+    held_.clear();
+    release_.reset();
+    keys_.releaseAll();
+    FormView::refreshAll();
+}
+
 void KeyEvents::keyPressed(const QKeyEvent& event) {
     form_.settleActivation();
     settleReleaseBefore(event);
@@ -160,12 +214,11 @@ void KeyEvents::keyPressed(const QKeyEvent& event) {
                                       [](const auto& held) { return held.second.code == keyCode::alt; });
         if (alt != held_.end()) letGoOf(alt->first);
     }
-    if (isPaste(event)) return paste(QGuiApplication::clipboard()->text());
-    if (commandModifiers(event) == Qt::AltModifier && event.key() != Qt::Key_Alt) {
-        if (Control* const control = accessControl(event.text())) form_.press(*control);
-        return;
-    }
+    if (edits(event)) return FormView::refreshAll();
     const auto key = keyOf(event);
+    if (!key && commandModifiers(event) == Qt::AltModifier) {
+        if (Control* const control = accessControl(event.text())) form_.press(*control);
+    }
     if (!key) return;
     const auto held = held_.find(scanCode);
     if (held != held_.end() && held->second != *key) letGoOf(scanCode);
@@ -204,10 +257,43 @@ void KeyEvents::letGoOf(quint32 scanCode) {
     keys_.keyUp(key);
 }
 
+// Whether the key copies, pastes, selects or undoes; it is none of the calculator's then.
+bool KeyEvents::edits(const QKeyEvent& event) {
+    const Window& window = form_.window();
+    auto* const field = dynamic_cast<TextField*>(window.focus());
+    const auto call = [](const std::function<void()>& command) {
+        if (command) command();
+        return true;
+    };
+    switch (editingLetter(event)) {
+        case Qt::Key_A:
+            if (field != nullptr) keys_.run([&] { field->select(0, field->text().size()); });
+            return true;
+        case Qt::Key_C:
+            return call(window.onCopy);
+        case Qt::Key_V:
+            paste(QGuiApplication::clipboard()->text());
+            return true;
+        case Qt::Key_X:
+            return call(window.onCut);
+        case Qt::Key_Z:
+            return call(window.onUndo);
+        default:
+            break;
+    }
+    const auto key = keyOf(event);
+    if (!key || field == nullptr || !(event.modifiers() & Qt::ShiftModifier)) return false;
+    if (key->character != 0 || !(field->multiLine ? moves(key->code) : movesInLine(key->code))) return false;
+    held_[event.nativeScanCode()] = *key;
+    keys_.run([&] { field->editByKey(key->code, true); });
+    return true;
+}
+
 void KeyEvents::paste(const QString& text) {
     if (!form_.window().onPaste) return type(text);
-    const std::u16string pasted = text.toStdU16String();
-    type(QString::fromStdU16String(form_.window().onPaste(pasted)));
+    form_.settleActivation();
+    form_.window().onPaste(text.toStdU16String());
+    FormView::refreshAll();
 }
 
 void KeyEvents::type(const QString& text) {

@@ -15,13 +15,17 @@ namespace zifferon {
 class FormView;
 
 // The key of an event, or nothing where it neither types nor commands: Shift and its like, unknown keys, and
-// all that is pressed together with Ctrl, Alt or Meta but Ctrl+R.
+// what is pressed together with Ctrl, Alt or Meta, but for Ctrl+R, function keys and keys that move. A key of
+// the keypad types its digit or the separator whatever NumLock says.
 std::optional<Key> keyOf(const QKeyEvent& event);
 
 class KeyEvents : public QObject {
   public:
     // Watches `form` from now on; the form outlives it.
     KeyEvents(FormView& form, KeyRoad& keys);
+
+    // Of every key that is down, as when another window or a menu takes the keyboard.
+    void letGoOfAll();
 
   private:
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -30,6 +34,7 @@ class KeyEvents : public QObject {
     void settleRelease();
     void settleReleaseBefore(const QKeyEvent& press);
     void letGoOf(quint32 scanCode);
+    bool edits(const QKeyEvent& event);
     void paste(const QString& text);
     void type(const QString& text);
     Control* accessControl(const QString& typed) const;

@@ -66,6 +66,8 @@ void QtClipboard::clear() { QGuiApplication::clipboard()->clear(); }
 
 void QtClipboard::setText(TextView text) { QGuiApplication::clipboard()->setText(toQString(text)); }
 
+Text QtClipboard::text() const { return QGuiApplication::clipboard()->text().toStdU16String(); }
+
 void QtSound::beep() { QApplication::beep(); }
 
 // No destructor runs: handlers are on their way, and what they hold is nobody's any more.

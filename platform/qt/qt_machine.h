@@ -19,6 +19,7 @@ class QtClipboard : public Clipboard {
   public:
     void clear() override;
     void setText(TextView text) override;
+    Text text() const override;
 };
 
 class QtSound : public Sound {

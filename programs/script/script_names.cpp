@@ -251,7 +251,7 @@ Control* controlOf(std::string_view name, Program& program) {
 std::optional<std::string> valueOf(std::string_view name, Program& program, const HeadlessMachine& machine) {
     const auto found = variables().find(name);
     if (found != variables().end()) return found->second(program.pultform.state);
-    if (name == "clipboard") return quoted(machine.clipboardText());
+    if (name == "clipboard") return quoted(machine.text());
     if (name == "focus") {
         const Window* const modal = machine.modal().window;
         const Control* focus = (modal != nullptr ? *modal : program.pultform).focus();

@@ -66,12 +66,19 @@ bool Pasting::typeIntoPrompts(const std::vector<PastedFigure>& figures) {
     return s.secondValuePrompt && typeFigure(s.eingabe, figures[1]) && figures.size() == 2;
 }
 
+// A chain is one step to be undone, behind its last operator: a snapshot holds the whole tape, and one of
+// each figure would make a long column cost the square of its length.
 bool Pasting::typeChain(const std::vector<PastedFigure>& figures) {
-    for (std::size_t i = 0; i < figures.size(); ++i) {
-        const PastedFigure& figure = figures[i];
-        if (i > 0) type(figure.operation != 0 ? figure.operation : u'+');
-        if (s.zwischen.is(u"Error") && i > 0) return false;
-        if (!typeFigure(s.eingabe, figure)) return false;
+    if (!typeFigure(s.eingabe, figures.front())) return false;
+    const bool undoActive = s.undoActive;
+    const std::size_t last = figures.size() - 1;
+    for (std::size_t i = 1; i <= last; ++i) {
+        s.undoActive = undoActive && i == last;
+        type(figures[i].operation != 0 ? figures[i].operation : u'+');
+        if (!s.zwischen.is(u"Error") && typeFigure(s.eingabe, figures[i])) continue;
+        s.undoActive = undoActive;
+        if (i < last) s.calls.takeUndoSnapshot();
+        return false;
     }
     return true;
 }

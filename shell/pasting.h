@@ -16,8 +16,8 @@ class Pasting {
     // Types into the field that has the focus. The print copy takes the text as it stands. A memory cell and
     // a percent prompt take one figure, the value prompts one each; an entry is replaced; a standing total is
     // closed first, so that a new calculation begins. Several figures are added up as a column, unless
-    // operators stand between them; the last one waits for the user's key. What is not taken is told by one
-    // beep. Must not run inside a handler of the key road.
+    // operators stand between them; the last one waits for the user's key, and what went before is one step
+    // to be undone. What is not taken is told by one beep. Must not run inside a handler of the key road.
     void paste(TextView text);
 
   private:

@@ -21,6 +21,7 @@ class Editing : public testing::Test {
     void type(TextView characters) {
         for (const char16_t character : characters) program_.keys.stroke(keyOfCharacter(character));
     }
+    void undo() { program_.pultform.onUndo(); }
     void paste(TextView text) { program_.pultform.onPaste(text); }
 
     // The last line of the tape that holds something, without the blanks behind it.
@@ -70,6 +71,19 @@ TEST_F(Editing, aColumnIsAddedUpAndItsLastFigureWaits) {
     EXPECT_EQ(tapeEnd(), "1.017,50 =");
 }
 
+TEST_F(Editing, aPastedColumnIsUndoneAsOneStep) {
+    type(u"1+2+");
+    paste(u"5\n6\n7");
+    undo();  // the waiting figure
+    EXPECT_EQ(state().zwischen.text(), u"14,00");
+    undo();
+    EXPECT_EQ(state().zwischen.text(), u"3,00");
+    EXPECT_EQ(tapeEnd(), "2,00 +");
+    paste(u"5/0+7");
+    undo();
+    EXPECT_EQ(state().zwischen.text(), u"3,00");
+}
+
 TEST_F(Editing, aStandingTotalIsClosedFirst) {
     type(u"100+1\r");
     paste(u"5\n6\n7");
@@ -114,7 +128,7 @@ TEST_F(Editing, promptsTakeAsManyFiguresAsTheyAskFor) {
     EXPECT_EQ(beeps(), 0);
     EXPECT_TRUE(state().secondValuePrompt);
     EXPECT_EQ(entry(), "250");
-    paste(u"300 400");
+    paste(u"300\n400");
     EXPECT_EQ(beeps(), 1);
     type(u"\r");
     EXPECT_EQ(state().zwischen.text(), u"Differenz: 50,00 %");
@@ -212,11 +226,11 @@ TEST_F(Editing, theMenuOffersWhatCanBeDone) {
 
 TEST_F(Editing, undoIsThatOfTheButton) {
     type(u"5+3+");
-    program_.pultform.onUndo();
+    undo();
     EXPECT_EQ(state().zwischen.text(), u"5,00");
     type(u"200P");
     const Text before = state().zwischen.text();
-    program_.pultform.onUndo();
+    undo();
     EXPECT_EQ(state().zwischen.text(), before);
 }
 

@@ -3,15 +3,13 @@
 #include <algorithm>
 #include <vector>
 
+#include "shell/pasted_pieces.h"
+
 namespace zifferon {
 
 namespace {
 
 constexpr TextView points = u",.";
-
-bool isDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-
-bool allDigits(TextView text) { return std::all_of(text.begin(), text.end(), isDigit); }
 
 std::vector<TextView> splitAt(char16_t sign, TextView text) {
     std::vector<TextView> parts;

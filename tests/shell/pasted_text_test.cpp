@@ -129,13 +129,48 @@ TEST(PastedText, operatorsBetweenFiguresCount) {
 }
 
 TEST(PastedText, whatIsNotCertainlyAFigureIsLeftOut) {
-    for (const TextView text :
-         {u"12.03.2026", u"12.03.26", u"12.03.", u"2026-03-12", u"2026-11-12", u"12/03/2026", u"12/11/2026",
-          u"11/2026", u"2025-2026", u"12. März 2026", u"März 2026", u"14:30", u"14:30:15", u"14.30 Uhr", u"1e3",
-          u"3x4", u"3 x 4", u"1.2.3", u"192.168.1.10", u"19 %", u"19%", u"007", u"0711 / 123456",
-          u"DE89 3704 0044 0532 0130 00", u"Pos. 3", u"Nr.5", u"Version 5.0", u"H2O", u"#5", u"= 15", u"62,00 =",
-          u"4,00 x   ", u"5\u20137 kg", u"1,2,3", u"12,34,567", u"100 200 300", u"5 Mio", u"1)", u"5²", u"½5", u"1,5.2",
-          u"12345678901234567890123456"}) {
+    for (const TextView text : {u"12.03.2026",
+                                u"12.03.26",
+                                u"12.03.",
+                                u"2026-03-12",
+                                u"2026-11-12",
+                                u"12/03/2026",
+                                u"12/11/2026",
+                                u"11/2026",
+                                u"2025-2026",
+                                u"12. März 2026",
+                                u"März 2026",
+                                u"14:30",
+                                u"14:30:15",
+                                u"14.30 Uhr",
+                                u"1e3",
+                                u"3x4",
+                                u"3 x 4",
+                                u"1.2.3",
+                                u"192.168.1.10",
+                                u"19 %",
+                                u"19%",
+                                u"007",
+                                u"0711 / 123456",
+                                u"DE89 3704 0044 0532 0130 00",
+                                u"Pos. 3",
+                                u"Nr.5",
+                                u"Version 5.0",
+                                u"H2O",
+                                u"#5",
+                                u"= 15",
+                                u"62,00 =",
+                                u"4,00 x   ",
+                                u"5\u20137 kg",
+                                u"1,2,3",
+                                u"12,34,567",
+                                u"100 200 300",
+                                u"5 Mio",
+                                u"1)",
+                                u"5²",
+                                u"½5",
+                                u"1,5.2",
+                                u"12345678901234567890123456"}) {
         EXPECT_EQ(found(text), "!") << toUtf8(text);
     }
     check({{u"12.03.2026 12,50", "12,50 !"},
@@ -152,7 +187,8 @@ TEST(PastedText, anyTextOfAnyLengthIsReadOnce) {
     EXPECT_EQ(figuresOf(row, commaStyle).figures.size(), 100000U);
     EXPECT_TRUE(figuresOf(digits, commaStyle).leftOut);
     EXPECT_TRUE(figuresOf(blanks, commaStyle).leftOut);
-    for (const TextView text : {u"", u"-", u"+", u"(", u")", u".", u",", u":", u"€", u"((5", u"5))", u"-:5", u".:.5"}) {
+    for (const TextView text :
+         {u"", u"-", u"+", u"(", u")", u".", u",", u":", u"€", u"((5", u"5))", u"-:5", u".:.5"}) {
         EXPECT_LE(figuresOf(text, commaStyle).figures.size(), 1U);
     }
 }

@@ -43,6 +43,12 @@ class RandomKeys : public testing::TestWithParam<unsigned> {
         return keyOfCharacter(characters[below(static_cast<unsigned>(characters.size()))]);
     }
 
+    Text anyText() {
+        static const std::vector<Text> texts = {u"12,50 EUR", u"5\n6\n-7", u"8/0*3", u"Datum 12.03.2026",
+                                                u"(3)"};
+        return texts[below(static_cast<unsigned>(texts.size()))];
+    }
+
     // What the Print/Edit page covers is out of a person's reach.
     void clickAnyOf(Window& window, KeyRoad& keys) {
         const auto& controls = window.controls();
@@ -54,7 +60,7 @@ class RandomKeys : public testing::TestWithParam<unsigned> {
     }
 
     void act() {
-        switch (below(12)) {
+        switch (below(13)) {
             case 0:
                 return program_.keys.keyDown(anyKey());
             case 1:
@@ -64,6 +70,8 @@ class RandomKeys : public testing::TestWithParam<unsigned> {
             case 3:
                 return clickAnyOf(program_.pultform, program_.keys);
             case 4:
+                return program_.pultform.onPaste(anyText());
+            case 5:
                 return headless_.wait(below(700), program_.pultform, program_.keys);
             default:
                 return program_.keys.stroke(anyKey());

@@ -37,14 +37,59 @@ TEST_F(WindowTest, KeypadWorksWithEveryLayout) {
     useLayout("us");
 }
 
-TEST_F(WindowTest, KeypadWithoutNumLockEdits) {
-    hands.stroke({keys::keypad1, keys::keypad2, keys::keypad3});
-    ASSERT_TRUE(comesTrue([&] { return entry() == "123"; }));
+TEST_F(WindowTest, KeypadTypesWithoutNumLockToo) {
     hands.setNumLock(false);
-    hands.stroke({keys::keypad7});  // Home
-    EXPECT_TRUE(comesTrue([&] { return state().eingabe.caret() == 0; }));
-    hands.stroke({keys::keypadDecimal});  // Delete
-    EXPECT_TRUE(comesTrue([&] { return entry() == "23"; }));
+    const int digits[] = {90, 87, 88, 89, 83, 84, 85, 79, 80, 81};
+    hands.stroke({keys::keypad1, keys::keypadDecimal});
+    for (const int digit : digits) hands.stroke({digit});
+    EXPECT_TRUE(comesTrue([&] { return entry() == "1,0123456789"; })) << entry();
+    hands.setNumLock(true);
+    // Shift turns NumLock around.
+    hands.down(keys::shift);
+    hands.stroke({keys::keypad1, digits[0]});
+    hands.up(keys::shift);
+    EXPECT_TRUE(comesTrue([&] { return entry() == "1,012345678910"; })) << entry();
+}
+
+TEST_F(WindowTest, ShiftSelectsAndTheEditKeysCopyPasteAndUndo) {
+    const int end = 115, home = 110, letterA = 38, letterC = 54, letterZ = 52;
+    hands.stroke({keys::keypad1, keys::keypadAdd, keys::keypad2, keys::keypadAdd, keys::keypad3});
+    ASSERT_TRUE(comesTrue([&] { return entry() == "3"; }));
+    hands.stroke({keys::keypad5, home});
+    pressWith(keys::shift, keys::right);
+    EXPECT_TRUE(comesTrue([&] { return state().eingabe.selectionLength() == 1; }));
+    EXPECT_EQ(entry(), "35");
+    pressWith(keys::control, letterC);
+    EXPECT_TRUE(comesTrue([&] { return QGuiApplication::clipboard()->text() == QStringLiteral("3"); }));
+    hands.stroke({end});
+    pressWith(keys::shift, home);
+    EXPECT_TRUE(comesTrue([&] { return state().eingabe.selectionLength() == 2; }));
+    hands.stroke({end});
+    pressWith(keys::control, letterA);
+    EXPECT_TRUE(comesTrue([&] { return state().eingabe.selectionLength() == 2; }));
+    hands.stroke({keys::keypad7});
+    EXPECT_TRUE(comesTrue([&] { return entry() == "7"; }));
+    pressWith(keys::control, letterZ);
+    EXPECT_TRUE(comesTrue([&] { return entry().empty(); }));
+    pressWith(keys::control, letterZ);
+    EXPECT_TRUE(comesTrue([&] { return state().zwischen.is(u"1,00"); }));
+}
+
+TEST_F(WindowTest, FunctionKeysAndArrowsActWithControlAltAndSuper) {
+    const int f8 = keys::f8, f4 = 70, super = 133;
+    std::vector<int> codes;
+    state().eingabe.onKeyDown = [&](int& code) {
+        if (code != keyCode::alt) codes.push_back(std::exchange(code, 0));
+    };
+    pressWith(keys::control, f8);
+    pressWith(super, f8);
+    pressWith(keys::alt, keys::right);
+    pressWith(keys::control, keys::right);
+    pressWith(keys::alt, f4);
+    pressWith(keys::control, keys::digit1);
+    hands.stroke({keys::digit1});
+    EXPECT_TRUE(comesTrue([&] { return codes.size() == 5; }));
+    EXPECT_EQ(codes, std::vector<int>({keyCode::f8, keyCode::f8, keyCode::right, keyCode::right, '1'}));
 }
 
 TEST_F(WindowTest, KeysMayOverlap) {
@@ -121,12 +166,12 @@ TEST_F(WindowTest, AltAloneAndF10ReachTheCalculator) {
     const int f5 = 71, f10 = 76;
     hands.stroke({keys::alt, f10});
     pressWith(keys::alt, f5);
-    EXPECT_TRUE(comesTrue([&] { return codes.size() == 3; }));
-    EXPECT_EQ(codes, std::vector<int>({keyCode::alt, keyCode::f10, keyCode::alt}));
+    EXPECT_TRUE(comesTrue([&] { return codes.size() == 4; }));
+    EXPECT_EQ(codes, std::vector<int>({keyCode::alt, keyCode::f10, keyCode::alt, keyCode::f5}));
 }
 
-TEST_F(WindowTest, PastedTextIsTyped) {
-    QGuiApplication::clipboard()->setText(QStringLiteral("12,50+3*4\r\n"));
+TEST_F(WindowTest, PastedFiguresAreTyped) {
+    QGuiApplication::clipboard()->setText(QStringLiteral("12,50 EUR+3*4\r\n"));
     pressWith(keys::control, keys::letterV);
     EXPECT_TRUE(comesTrue([&] { return entry() == "4"; }));
     EXPECT_EQ(tape(), "\r\n12,50      \r\n3,00 +   ");
@@ -134,7 +179,7 @@ TEST_F(WindowTest, PastedTextIsTyped) {
     QGuiApplication::clipboard()->setText(QStringLiteral("5\n7"), QClipboard::Selection);
     click(state().anzeige, {50, 50}, 2);
     EXPECT_TRUE(comesTrue([&] { return entry() == "7"; })) << entry();
-    EXPECT_TRUE(tape().ends_with("\r\n45,00 x   ")) << tape();
+    EXPECT_TRUE(tape().ends_with("\r\n5,00 x   ")) << tape();
     EXPECT_EQ(toUtf8(state().txtop.text()), "+");
 }
 

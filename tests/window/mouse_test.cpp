@@ -1,5 +1,7 @@
 // What the mouse does, and what is seen of the tape.
 #include <QAbstractScrollArea>
+#include <QApplication>
+#include <QClipboard>
 #include <QScrollBar>
 
 #include "tests/window/window_fixture.h"
@@ -86,14 +88,38 @@ TEST_F(WindowTest, PageUpMovesTheTapeUntilAnotherKeyComes) {
     const auto* const area = view.findChild<QAbstractScrollArea*>(QStringLiteral("anzeige"));
     const QScrollBar& bar = *area->verticalScrollBar();
     const int end = bar.value();
-    hands.setNumLock(false);
-    const int pageUp = 81;
+    const int pageUp = 112;
     hands.stroke({pageUp, pageUp, pageUp});
     EXPECT_TRUE(comesTrue([&] { return bar.value() < end; }));
     EXPECT_EQ(program.pultform.focus(), &state().anzeige);
-    hands.setNumLock(true);
     hands.stroke({keys::keypad5, keys::keypad7});
     EXPECT_TRUE(comesTrue([&] { return entry() == "7"; }));
+}
+
+TEST_F(WindowTest, TheRightButtonOpensAMenu) {
+    hands.stroke({keys::keypad1, keys::keypadAdd, keys::keypad2, keys::keypad3});
+    ASSERT_TRUE(comesTrue([&] { return entry() == "23"; }));
+    QGuiApplication::clipboard()->setText(QStringLiteral("7 EUR"));
+    state().eingabe.select(1, 1);
+    hands.down(keys::keypad5);
+    ASSERT_TRUE(comesTrue([&] { return entry() == "25"; }));
+    state().eingabe.select(0, 1);
+    const int rightButton = 3, down = 116;
+    click(state().eingabe, {100, 8}, rightButton);
+    ASSERT_TRUE(comesTrue([] { return QApplication::activePopupWidget() != nullptr; }));
+    hands.up(keys::keypad5);
+    letPass(100);
+    hands.stroke({down, keys::enter});
+    EXPECT_TRUE(comesTrue([] { return QGuiApplication::clipboard()->text() == QStringLiteral("2"); }));
+
+    QGuiApplication::clipboard()->setText(QStringLiteral("7 EUR"));
+    click(state().memo[0], {50, 8}, rightButton);
+    ASSERT_TRUE(comesTrue([] { return QApplication::activePopupWidget() != nullptr; }));
+    letPass(100);
+    hands.stroke({down, keys::enter});
+    EXPECT_TRUE(comesTrue([&] { return state().memo[0].is(u"7"); }));
+    hands.stroke({keys::enter, keys::keypad3});
+    EXPECT_TRUE(comesTrue([&] { return entry() == "35"; })) << entry();
 }
 
 TEST_F(WindowTest, MemoryCellTakesTheKeyboard) {

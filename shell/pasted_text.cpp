@@ -252,7 +252,7 @@ class Line {
     // "12.03" before another point
     static bool isDay(TextView number) {
         const std::size_t point = number.find(u'.');
-        if (point == TextView::npos || point > 2 || number.size() != point + 3) return false;
+        if (point > 2 || number.substr(point).size() != 3) return false;
         return number.substr(point + 1) <= u"12" && (point == 1 || number.substr(0, 2) <= u"31");
     }
 

@@ -10,12 +10,14 @@ CalculatorState::CalculatorState() {
     eingabe.blankIgnoresLimit = true;
     zwischen.setText(u"0");
     zwischen.maxLength = 41;
+    eingabe.shrinks = zwischen.shrinks = Texterror.shrinks = true;
     zwischen.locked = txtop.locked = anzeige.locked = Texterror.locked = true;
     anzeige.multiLine = superdruck.multiLine = true;
     for (TextField& cell : memo) {
         cell.alignment = Alignment::right;
         cell.maxLength = 42;
         cell.takesFocus = true;
+        cell.shrinks = true;
     }
     Texterror.setText(u"RND Error");
     Texterror.visible = false;

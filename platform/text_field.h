@@ -73,8 +73,9 @@ class TextField : public Control {
     void typeCharacter(char16_t character);
 
     bool multiLine = false;
-    int pageLines = 20;   // of several lines: how far Page Up and Page Down go
-    bool locked = false;  // editing keys change nothing; writing by code does
+    int pageLines = 20;    // of several lines: how far Page Up and Page Down go
+    bool shrinks = false;  // of one line: a text too long for the field is shown smaller, and never cut
+    bool locked = false;   // editing keys change nothing; writing by code does
     bool blankIgnoresLimit =
         false;                  // a blank enters a full field too, for the Backspace that is queued for it
     std::size_t maxLength = 0;  // for typing only; 0: no limit

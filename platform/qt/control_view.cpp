@@ -15,6 +15,16 @@ QRect pixels(const Place& place) {
                         QSize(corner.x(), corner.y())};
 }
 
+// Sized in pixels like all places, so that no setting of the desktop makes the text outgrow them. Without
+// kerning all digits are of one width: figures stand under each other.
+QFont fontOf(const Font& font) {
+    QFont result(toQString(font.family));
+    result.setPixelSize(qRound(font.points * 20 / twipsPerPixel));
+    result.setBold(font.bold);
+    result.setKerning(false);
+    return result;
+}
+
 QColor colourOf(Colour colour) { return {colour.red, colour.green, colour.blue}; }
 
 Qt::Alignment qtAlignment(Alignment alignment) {
@@ -39,13 +49,7 @@ ControlView::ControlView(Control& control, QWidget& widget, QWidget& surface, Fo
 
 void ControlView::refresh() {
     if (differs(place_, control_.place)) widget_.setGeometry(pixels(control_.place));
-    if (differs(font_, control_.font)) {
-        // Sized in pixels like all places, so that no setting of the desktop makes the text outgrow them.
-        QFont font(toQString(control_.font.family));
-        font.setPixelSize(qRound(control_.font.points * 20 / twipsPerPixel));
-        font.setBold(control_.font.bold);
-        widget_.setFont(font);
-    }
+    if (differs(font_, control_.font)) widget_.setFont(fontOf(control_.font));
     const bool newForeColour = differs(foreColour_, control_.foreColour);
     if (differs(backColour_, control_.backColour) || newForeColour) refreshColours();
     if (differs(toolTip_, control_.toolTip)) widget_.setToolTip(toQString(control_.toolTip));

@@ -15,6 +15,7 @@ class FormView;
 // Twips to logical pixels: 15 to the pixel at every scale.
 constexpr int twipsPerPixel = 15;
 QRect pixels(const Place& place);
+QFont fontOf(const Font& font);
 QColor colourOf(Colour colour);
 Qt::Alignment qtAlignment(Alignment alignment);
 

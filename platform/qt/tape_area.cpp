@@ -13,14 +13,15 @@ namespace zifferon {
 
 namespace {
 
-constexpr int margin = 7;
+constexpr double margin = 7;
 constexpr int bottomMargin = 4;
 constexpr int smallestLineHeight = 16;  // the ruled lines of the print copy stand 16 pixels apart
+
+TextView trimmed(TextView text) { return text.substr(0, text.find_last_not_of(u' ') + 1); }
 
 // The part of a line of the tape that ends at the column's edge: all but the mark behind it, a lone sign such
 // as " +   ", and the blanks.
 TextView beforeMark(TextView line) {
-    const auto trimmed = [](TextView text) { return text.substr(0, text.find_last_not_of(u' ') + 1); };
     const TextView text = trimmed(line);
     const std::size_t mark = text.rfind(u' ') + 1;
     const auto isSign = [](char16_t c) { return c == u'x' || !QChar(c).isLetterOrNumber(); };
@@ -102,8 +103,10 @@ void TapeArea::paintEvent(QPaintEvent* event) {
     follow();  // a handler that waits for a box may have changed the text
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Text));
-    const auto first = std::size_t(std::max(0, verticalScrollBar()->value() - 1));
-    for (std::size_t i = first; i < starts_.size(); ++i) {
+    // Whole lines only: half a figure reads as another one.
+    const auto first = std::size_t(verticalScrollBar()->value());
+    const std::size_t end = std::min(first + std::size_t(linesInView()), starts_.size());
+    for (std::size_t i = first; i < end; ++i) {
         const int top = topOf(i);
         if (top > event->rect().bottom()) break;
         if (top + lineHeight() <= event->rect().top()) continue;
@@ -118,15 +121,14 @@ void TapeArea::paintEvent(QPaintEvent* event) {
 void TapeArea::paintLine(QPainter& painter, std::size_t index, int top) const {
     const TextView text = line(index);
     if (text.empty()) return;
-    const int left = leftOf(text);
+    const Columns columns = columnsOf(text);
     const int baseline = top + (lineHeight() - fontMetrics().height() + 1) / 2 + fontMetrics().ascent();
-    if (left >= 0) return painter.drawText(left, baseline, borrowed(text));
-    // A line that is too long is squeezed: a number must never be seen without its first digits.
     painter.save();
-    painter.translate(columnEdge(), baseline);
-    painter.scale(double(columnEdge() - margin) / (columnEdge() - left), 1);
-    painter.drawText(left - columnEdge(), 0, borrowed(text));
+    painter.translate(columns.left, baseline);
+    painter.scale(columns.squeeze, 1);
+    painter.drawText(QPointF(0, 0), borrowed(text.substr(0, columns.length)));
     painter.restore();
+    painter.drawText(QPointF(columns.behind, baseline), borrowed(text.substr(columns.length)));
 }
 
 // What is selected of a line stands in exchanged colours, drawn over the line itself.
@@ -156,10 +158,15 @@ std::size_t TapeArea::positionAt(QPoint point) const {
 QRect TapeArea::rectAt(std::size_t position) const {
     const std::size_t index = lineOf(position);
     const TextView text = line(index);
+    const Columns columns = columnsOf(text);
+    const auto edgeOf = [&](std::size_t column) {
+        if (column < columns.length) return columns.left + columns.squeeze * width(text.substr(0, column));
+        return columns.behind + width(text.substr(columns.length, column - columns.length));
+    };
     const std::size_t column = std::min(position - starts_[index], text.size());
-    const auto width = [&](TextView part) { return fontMetrics().horizontalAdvance(borrowed(part)); };
-    const int left = leftOf(text) + width(text.substr(0, column));
-    return {left, topOf(index), width(text.substr(column, 1)), lineHeight()};
+    const int left = qRound(edgeOf(column));
+    const int right = qRound(edgeOf(std::min(column + 1, text.size())));
+    return {left, topOf(index), std::max(0, right - left), lineHeight()};
 }
 
 TextView TapeArea::line(std::size_t index) const {
@@ -190,14 +197,29 @@ int TapeArea::topOf(std::size_t line) const {
     return viewport()->height() - bottomMargin - (end - int(line)) * lineHeight();
 }
 
-int TapeArea::leftOf(TextView text) const {
-    if (field_.alignment != Alignment::right) return margin;
-    return columnEdge() - fontMetrics().horizontalAdvance(borrowed(beforeMark(text)));
+// On a tape the figures end at one edge, and the marks behind them stand around one line to the right of it,
+// however wide each is. A line that is too long is squeezed: a number must never be seen without some of its
+// digits.
+TapeArea::Columns TapeArea::columnsOf(TextView text) const {
+    const bool tape = field_.alignment == Alignment::right;
+    const TextView front = tape ? beforeMark(text) : text;
+    const double length = width(front);
+    const double end = viewport()->width() - margin - (tape ? width(u"      ") : 0);
+    const double squeeze = length > end - margin ? (end - margin) / length : 1;
+    const double left = tape ? end - squeeze * length : margin;
+    Columns columns{front.size(), left, squeeze, left + squeeze * length};
+    if (!tape || front.empty() || !QChar(front.back()).isDigit()) return columns;
+    const TextView behind = text.substr(front.size());
+    const TextView mark = trimmed(behind);
+    const TextView sign = mark.substr(std::min(mark.find_first_not_of(u' '), mark.size()));
+    const double middle = end + width(u" ") + width(u"+") / 2;
+    if (!sign.empty())
+        columns.behind = middle - width(sign) / 2 - width(mark.substr(0, mark.size() - sign.size()));
+    return columns;
 }
 
-// Six blanks stand behind a number without a mark.
-int TapeArea::columnEdge() const {
-    return viewport()->width() - margin - fontMetrics().horizontalAdvance(QStringLiteral("      "));
+double TapeArea::width(TextView text) const {
+    return QFontMetricsF(fontMetrics()).horizontalAdvance(borrowed(text));
 }
 
 }  // namespace zifferon

@@ -35,6 +35,13 @@ class TapeArea : public QAbstractScrollArea {
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
+    // Where a line stands: its first `length` characters from `left` on, all narrower by `squeeze`, and the
+    // rest from `behind` on.
+    struct Columns {
+        std::size_t length;
+        double left, squeeze, behind;
+    };
+
     void findLines(std::size_t unchanged);
     void fitScrollBar();
     void paintLine(QPainter& painter, std::size_t line, int top) const;
@@ -45,8 +52,8 @@ class TapeArea : public QAbstractScrollArea {
     int lineHeight() const;
     int linesInView() const;
     int topOf(std::size_t line) const;
-    int leftOf(TextView line) const;
-    int columnEdge() const;
+    Columns columnsOf(TextView line) const;
+    double width(TextView text) const;
 
     const TextField& field_;
     TextFollower follower_;

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <algorithm>
+#include <tuple>
 
 #include "platform/qt/form_view.h"
 #include "platform/qt/tape_area.h"
@@ -47,6 +48,9 @@ class TextView : public ControlView {
     std::size_t anchor_ = 0;
 };
 
+constexpr int lineMargin = 5;   // pixels beside the text: frame, the line edit's own, and the caret
+constexpr int leastPixels = 8;  // smaller digits are hard to read
+
 class LineView : public TextView {
   public:
     LineView(TextField& field, FormView& form) : LineView(field, *new QLineEdit(&form), form) {}
@@ -66,6 +70,7 @@ class LineView : public TextView {
     void refreshContent() override {
         const QString text = toQString(field().text());
         if (line_.text() != text) line_.setText(text);
+        if (field().shrinks && differs(fitted_, std::tuple(text, line_.width(), field().font))) fitFont(text);
         if (differs(alignment_, field().alignment)) line_.setAlignment(qtAlignment(field().alignment));
         const int caret = int(field().caret());
         const int length = int(field().selectionLength());
@@ -74,8 +79,28 @@ class LineView : public TextView {
         line_.setSelection(caret + length, -length);
     }
 
+    // The font of the field, made smaller where the text is too long for it, and then narrower where it would
+    // become too small to be read.
+    void fitFont(const QString& text) {
+        const auto widthIn = [&](const QFont& font) { return QFontMetrics(font).horizontalAdvance(text); };
+        const int room = line_.width() - 2 * lineMargin;
+        QFont font = fontOf(field().font);
+        for (int width = widthIn(font); width > room && font.pixelSize() > leastPixels;
+             width = widthIn(font)) {
+            font.setPixelSize(std::clamp(font.pixelSize() * room / width, leastPixels, font.pixelSize() - 1));
+        }
+        int stretch = 100;
+        for (int width = widthIn(font); width > room && stretch > 1; width = widthIn(font)) {
+            stretch = std::clamp(stretch * room / width, 1, stretch - 1);
+            font.setStretch(stretch);
+        }
+        if (line_.font() != font) line_.setFont(font);
+    }
+
     QLineEdit& line_;
     std::optional<Alignment> alignment_;
+    std::optional<std::tuple<QString, int, Font>>
+        fitted_;  // text, width and font that the font was fitted to
 };
 
 class TapeView : public TextView {

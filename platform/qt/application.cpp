@@ -3,6 +3,9 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QResource>
+#include <QToolTip>
+
+#include "platform/qt/own_style.h"
 
 namespace zifferon {
 
@@ -10,7 +13,8 @@ namespace {
 
 // Chosen before the application begins, which would otherwise make another style first.
 int& withOwnStyle(int& argc) {
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setDesktopSettingsAware(false);
+    QApplication::setStyle(new OwnStyle);
     return argc;
 }
 
@@ -36,7 +40,11 @@ QFont boxFont() { return arial(13); }
 
 Application::Application(int& argc, char** argv) : QApplication(withOwnStyle(argc), argv) {
     setQuitOnLastWindowClosed(false);
+    if (qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE")) setStyle(new OwnStyle);  // that one came later
+    setPalette(OwnStyle::palette());
     setFont(arial(11));  // that of most controls: each font more is seen at the start
+    QToolTip::setPalette(palette());
+    QToolTip::setFont(font());
     setWindowIcon(drawnIcon());
 }
 

@@ -1,7 +1,9 @@
 // What is seen: figures in columns, and whole.
+#include <QApplication>
 #include <QLineEdit>
 #include <QScrollBar>
 
+#include "platform/qt/own_style.h"
 #include "platform/qt/tape_area.h"
 #include "tests/window/window_fixture.h"
 
@@ -52,6 +54,17 @@ TEST_F(LooksTest, TheTapeShowsWholeLinesOnly) {
     const QImage above = area().viewport()->grab({0, 0, area().viewport()->width(), top}).toImage();
     for (int x = 0; x < above.width(); ++x) {
         for (int y = 0; y < above.height(); ++y) ASSERT_EQ(above.pixelColor(x, y), QColor(Qt::white));
+    }
+}
+
+TEST_F(LooksTest, StyleAndColoursAreTheProgramsOwn) {
+    EXPECT_NE(dynamic_cast<OwnStyle*>(QApplication::style()), nullptr);
+    const QPalette colours = QApplication::palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (int role = 0; role < QPalette::NColorRoles; ++role) {
+            if (role == QPalette::NoRole) continue;
+            EXPECT_TRUE(colours.isBrushSet(group, QPalette::ColorRole(role))) << group << ' ' << role;
+        }
     }
 }
 

@@ -4,7 +4,6 @@ namespace zifferon {
 
 namespace {
 
-constexpr Colour white{255, 255, 255};
 constexpr Colour key{214, 214, 214};
 constexpr Place outside{-3000, 0, 300, 300};
 
@@ -48,7 +47,6 @@ void HelpWindow::addTexts() {
         field.place = {270, top, 3600, 330};
         field.setText(text);
         field.font = {u"Arial", 8.25, false};
-        field.backColour = white;
         field.locked = true;
         field.frame = &Frame2;
         field.onClick = [this] { setFocus(Picture1); };

@@ -9,6 +9,7 @@ namespace zifferon {
 MessageWindow::MessageWindow(CalculatorState& state, std::function<void()> restoreCells)
     : s(state), restoreCells_(std::move(restoreCells)) {
     name = u"message";
+    caption = u"Zifferon PRO 5.0 - Undo";
     framed = false;
     onActivate = [this] { activate(); };
     onAnswer = [this](BoxAnswer) { close(); };

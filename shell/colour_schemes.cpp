@@ -81,6 +81,7 @@ void applyBackScheme(Pultform& window, HelpWindow& help, int scheme) {
     if (back == nullptr) return;
     window.backColour = *back;
     for (const TextView name : onBackground) window.find(name)->backColour = *back;
+    for (TextField* line : {&help.Text6, &help.Text1, &help.Text3, &help.Text8}) line->backColour = *back;
     help.backColour = help.hintergrund.backColour = help.Frame2.backColour = *back;
 }
 

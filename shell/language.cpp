@@ -73,10 +73,16 @@ TextView changedToEnglish(const Caption& caption) {
 
 TextView changedToGerman(const Caption& caption) { return caption.german; }
 
+void setTips(Pultform& window, bool english) {
+    window.Command3.toolTip = english ? u"Window size (F2)" : u"Fenstergröße (F2)";
+    window.Command3.accessibleName = english ? u"Window size" : u"Fenstergröße";
+}
+
 }  // namespace
 
 void setEnglishCaptions(Pultform& window, Kopf& kopf) {
     setCaptions(window, windowCaptions, atStart);
+    setTips(window, true);
     setCaptions(kopf, letterheadCaptions, atStart);
     setHeadings(kopf, true);
 }
@@ -84,6 +90,7 @@ void setEnglishCaptions(Pultform& window, Kopf& kopf) {
 void changeCaptions(Pultform& window, Kopf& kopf, bool english) {
     const auto choose = english ? changedToEnglish : changedToGerman;
     setCaptions(window, windowCaptions, choose);
+    setTips(window, english);
     setCaptions(kopf, letterheadCaptions, choose);
     setHeadings(kopf, english);
     kopf.english = english;

@@ -29,6 +29,7 @@ struct Style {
 
 constexpr Style onDesk{black, desk};
 constexpr Style onKey{black, key};
+constexpr Style signKey{black, key, 13.5, true};
 constexpr Style cell{panelText, panel, 8.25, true};
 constexpr Style runningValue{panelText, panel, 12, true};
 constexpr Style message{panelText, panel, 10.5, true};
@@ -51,6 +52,7 @@ struct Row {
     bool visible = true;
     Text spoken{};  // for a screen reader, where the caption does not tell
     Text picture{};
+    Text toolTip{};
 };
 
 constexpr Place wholeWindow{0, 0, 8115, 7710};
@@ -61,13 +63,13 @@ std::vector<Row> desktop() {
         {.name = u"anzeige", .place = {120, 120, 5430, 5535}, .style = paper, .spoken = u"Rechenstreifen"},
         {.name = u"rndleft",
          .place = {120, 5745, 360, 330},
-         .style = onKey,
+         .style = signKey,
          .caption = u"<",
          .spoken = u"weniger Nachkommastellen"},
         {.name = u"checkrnd", .place = {555, 5745, 870, 330}},
         {.name = u"rndright",
          .place = {1470, 5745, 360, 330},
-         .style = onKey,
+         .style = signKey,
          .caption = u">",
          .spoken = u"mehr Nachkommastellen"},
         {.name = u"zurück", .place = {4335, 5745, 1215, 330}, .style = onKey, .caption = u"&Undo"},
@@ -82,7 +84,9 @@ std::vector<Row> desktop() {
          .place = {4995, 6995, 350, 380},
          .style = onKey,
          .visible = false,
-         .spoken = u"Fenstergröße"},
+         .spoken = u"Fenstergröße",
+         .picture = u"window_size",
+         .toolTip = u"Fenstergröße (F2)"},
         {.name = u"Texterror",
          .place = {375, 6450, 4920, 360},
          .style = message,
@@ -115,7 +119,7 @@ std::vector<Row> desktop() {
         {.name = u"edit", .place = {5700, 4710, 1110, 555}, .style = onKey, .caption = u"&Druck/Edit"},
         {.name = u"Hilfe", .place = {6885, 4710, 1110, 555}, .style = onKey, .caption = u"&Hilfe"},
         {.name = u"cmdexit", .place = {5700, 5340, 2295, 555}, .style = onKey, .caption = u"E&xit (F12)"},
-        {.name = u"Frame2", .place = {5700, 6120, 2295, 1455}, .caption = u"Zwischenspeicher"},
+        {.name = u"Frame2", .place = {5700, 5985, 2295, 1590}, .caption = u"Zwischenspeicher"},
         {.name = u"Frame4", .place = {5790, 6340, 360, 1200}, .frame = u"Frame2"},
         {.name = u"focuspic", .place = outside},
         {.name = u"Picture11", .place = outside, .visible = false},
@@ -126,9 +130,10 @@ void addMemoryCells(std::vector<Row>& rows) {
     for (int i = 0; i < 5; ++i) {
         const auto digit = static_cast<char16_t>(u'1' + i);
         const Text cellName = Text(u"M") + digit;
-        const int top = 6330 + 240 * i;
+        const int top = 6255 + 240 * i;
+        // A pixel lower the letters of a label stand on one line with the figures of its cell.
         rows.push_back({.name = Text(u"Label") + static_cast<char16_t>(digit + 2),
-                        .place = {5820, top, 330, 225},
+                        .place = {5820, top + 15, 330, 225},
                         .caption = cellName,
                         .frame = u"Frame2"});
         rows.push_back({.name = Text(u"memo") + digit,
@@ -298,6 +303,7 @@ void layOut(Pultform& window, const Row& row) {
     control->visible = row.visible;
     control->accessibleName = row.spoken;
     control->picture = row.picture;
+    control->toolTip = row.toolTip;
 }
 
 }  // namespace

@@ -14,8 +14,6 @@ namespace zifferon {
 
 namespace {
 
-QString drawingOf(TextView name) { return QStringLiteral(":/pictures/%1.svg").arg(toQString(name)); }
-
 class LabelView : public ControlView {
   public:
     LabelView(Control& control, FormView& form) : ControlView(control, *new QLabel(&form), form) {
@@ -88,7 +86,7 @@ class Panel : public QWidget {
         QPainter painter(this);
         const QRect text = painter.fontMetrics().boundingRect(caption_);
         const int lineHeight = painter.fontMetrics().height();
-        const QRect line = rect().adjusted(0, lineHeight / 2, -1, -2);
+        const QRect line = rect().adjusted(0, lineHeight / 2, 0, -2);
         const QColor ground = palette().color(QPalette::Window);
         paintOutline(painter, line.translated(0, 1), ground.lighter(118));
         paintOutline(painter, line, ground.darker(135));

@@ -72,4 +72,7 @@ bool differs(std::optional<Value>& shown, const Value& wanted) {
 
 inline QString toQString(TextView text) { return QString::fromUtf16(text.data(), qsizetype(text.size())); }
 
+// The file of a drawing.
+inline QString drawingOf(TextView name) { return QStringLiteral(":/pictures/%1.svg").arg(toQString(name)); }
+
 }  // namespace zifferon

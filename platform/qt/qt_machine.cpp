@@ -4,8 +4,11 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
+#include <QSvgRenderer>
 #include <QThread>
+#include <QtMath>
 #include <cstdlib>
 
 #include "platform/qt/application.h"
@@ -16,20 +19,34 @@ namespace zifferon {
 
 namespace {
 
-QMessageBox::Icon iconOf(BoxIcon icon) {
+TextView drawingFor(BoxIcon icon) {
     switch (icon) {
         case BoxIcon::information:
-            return QMessageBox::Information;
+            return u"box_information";
         case BoxIcon::question:
-            return QMessageBox::Question;
+            return u"box_question";
         case BoxIcon::warning:
-            return QMessageBox::Warning;
+            return u"box_warning";
         case BoxIcon::critical:
-            return QMessageBox::Critical;
+            return u"box_critical";
         case BoxIcon::none:
             break;
     }
-    return QMessageBox::NoIcon;
+    return {};
+}
+
+// Drawn for the pixels of the screen on which the box opens.
+QPixmap pictureOf(BoxIcon icon, const QWidget& box) {
+    const TextView drawing = drawingFor(icon);
+    if (drawing.empty()) return {};
+    constexpr int size = 36;
+    const double scale = box.devicePixelRatioF();
+    QPixmap picture(QSize(qCeil(size * scale), qCeil(size * scale)));
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    QSvgRenderer(drawingOf(drawing)).render(&painter, QRectF(0, 0, size, size));
+    return picture;
 }
 
 }  // namespace
@@ -40,7 +57,7 @@ BoxAnswer QtBoxes::show(const Box& box) {
     window.setWindowTitle(toQString(box.title));
     window.setTextFormat(Qt::PlainText);
     window.setText(toQString(box.text));
-    window.setIcon(iconOf(box.icon));
+    window.setIconPixmap(pictureOf(box.icon, window));
     if (box.buttons == BoxButtons::ok) {
         window.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
         window.exec();

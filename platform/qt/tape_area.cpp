@@ -38,6 +38,7 @@ QString borrowed(TextView text) {
 
 TapeArea::TapeArea(TextField& field, QWidget* parent)
     : QAbstractScrollArea(parent), field_(field), follower_(field) {
+    setFrameShape(QFrame::NoFrame);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setBackgroundRole(QPalette::Base);

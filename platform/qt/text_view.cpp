@@ -1,6 +1,8 @@
 #include "platform/qt/text_view.h"
 
 #include <QLineEdit>
+#include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <tuple>
 
@@ -48,12 +50,32 @@ class TextView : public ControlView {
     std::size_t anchor_ = 0;
 };
 
+// A lone sign in a centred field, such as + or =, stands in the middle of it, wherever it stands in its line.
+class Line : public QLineEdit {
+  public:
+    using QLineEdit::QLineEdit;
+
+  private:
+    void paintEvent(QPaintEvent* event) override {
+        if (!isReadOnly() || alignment() != Qt::AlignCenter || text().size() != 1) {
+            return QLineEdit::paintEvent(event);
+        }
+        QPainterPath sign;
+        sign.addText(0, 0, font(), text());
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillRect(rect(), palette().base());
+        painter.translate(QRectF(rect()).center() - sign.boundingRect().center());
+        painter.fillPath(sign, palette().text());
+    }
+};
+
 constexpr int lineMargin = 5;   // pixels beside the text: frame, the line edit's own, and the caret
 constexpr int leastPixels = 8;  // smaller digits are hard to read
 
 class LineView : public TextView {
   public:
-    LineView(TextField& field, FormView& form) : LineView(field, *new QLineEdit(&form), form) {}
+    LineView(TextField& field, FormView& form) : LineView(field, *new Line(&form), form) {}
 
   private:
     LineView(TextField& field, QLineEdit& line, FormView& form)
@@ -61,6 +83,8 @@ class LineView : public TextView {
         line_.setContextMenuPolicy(Qt::NoContextMenu);
         line_.setAcceptDrops(false);
         line_.setReadOnly(!field.takesFocus);
+        line_.setFrame(
+            field.takesFocus);  // what only shows something does not look as if one could type there
     }
 
     std::size_t positionAt(QPoint position) const override {

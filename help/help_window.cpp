@@ -1,5 +1,7 @@
 #include "help/help_window.h"
 
+#include "platform/key.h"
+
 namespace zifferon {
 
 namespace {
@@ -34,6 +36,11 @@ HelpWindow::HelpWindow() {
     Picture1.onClick = [this] { setFocus(Picture1); };
     add(Timer2, u"Timer2");
     onDismiss = [this] { visible = false; };
+    for (Control* const control : controls()) {
+        control->onKeyDown = [this](int& code) {
+            if (code == keyCode::escape) visible = false;
+        };
+    }
     setCaptions(false);
     setTitle(false);
     showReference(false);

@@ -6,7 +6,7 @@
 namespace zifferon {
 
 HelpDesk::HelpDesk(Pultform& window, Kopf& kopf, HelpWindow& help, Machine& machine,
-                   std::function<void(const std::string& file, float value)> store)
+                   std::function<bool(const std::string& file, float value)> store)
     : window_(window),
       kopf_(kopf),
       help_(help),
@@ -59,11 +59,12 @@ void HelpDesk::changeLanguage(bool english) {
         return;
     }
     help_.setFocus(help_.Picture1);
-    store_(settingsFile::language, english ? 1.0F : 0.0F);
+    const bool stored = store_(settingsFile::language, english ? 1.0F : 0.0F);
     help_.setCaptions(english);
     help_.setTitle(english);
     s.languageEnglish = english;
     changeCaptions(window_, kopf_, english);
+    if (!stored) return;  // that has been told; the language holds for this run
     machine_.boxes.show({.icon = BoxIcon::information,
                          .text = Text(s.inLanguage(u"Die Spracheinstellung wurde auf Deutsch geändert.   ",
                                                    u"The language has been set to English.   ")),

@@ -13,9 +13,9 @@ namespace zifferon {
 
 class HelpDesk {
   public:
-    // `store` writes a setting; a failure is told by it.
+    // `store` writes a setting and returns whether it is written; if not, it has told so.
     HelpDesk(Pultform& window, Kopf& kopf, HelpWindow& help, Machine& machine,
-             std::function<void(const std::string& file, float value)> store);
+             std::function<bool(const std::string& file, float value)> store);
 
     void wire();
 
@@ -33,7 +33,7 @@ class HelpDesk {
     HelpWindow& help_;
     Machine& machine_;
     CalculatorState& s;
-    std::function<void(const std::string& file, float value)> store_;
+    std::function<bool(const std::string& file, float value)> store_;
 };
 
 }  // namespace zifferon

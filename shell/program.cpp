@@ -25,7 +25,7 @@ Program::Program(Machine& machine)
       life_(pultform, kopf, help, keys, undo_, record_, modes_, machine),
       page_(pultform.state, pultform.page, pultform.stripes, pultform, machine.boxes, alwaysOnTopFile()),
       helpDesk_(pultform, kopf, help, machine,
-                [this](const std::string& file, float value) { store(file, value); }),
+                [this](const std::string& file, float value) { return store(file, value); }),
       commands_{pultform.state, pultform, machine.boxes, {}},
       editing_(pultform, keys, machine) {
     wireCalls();

@@ -55,6 +55,14 @@ bool onWayland() { return QGuiApplication::platformName() == QStringLiteral("way
 // The window in use; null: none yet, or it was hidden.
 FormView* active = nullptr;
 
+// A size is fixed by the program: there is nothing to maximise.
+Qt::WindowFlags frameOf(const Window& window, bool owned) {
+    Qt::WindowFlags flags = owned ? Qt::Dialog : Qt::Window;
+    if (!window.framed) return flags | Qt::FramelessWindowHint;
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    return flags | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
+}
+
 }  // namespace
 
 FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
@@ -66,8 +74,7 @@ FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
       place_{window.place.left, window.place.top, 0, 0} {
     offerTapesToScreenReaders();
     setObjectName(toQString(window.name));
-    setWindowFlag(Qt::Dialog, owner != nullptr);
-    setWindowFlag(Qt::FramelessWindowHint, !window.framed);
+    setWindowFlags(frameOf(window, owner != nullptr));
     setMouseTracking(true);
     activation_.setSingleShot(true);
     activation_.callOnTimeout([this] { activationDue(); });
@@ -171,6 +178,8 @@ void FormView::activationDue() {
         return form != this && form->stays_ && form->isActiveWindow();
     });
     if (waits) return activation_.start(longestWait);
+    // Hidden and shown again while no other program was there, a window may have got the keyboard unnoticed.
+    if (QGuiApplication::focusWindow() == windowHandle()) QApplication::setActiveWindow(this);
     becomeActive();
 }
 
@@ -279,7 +288,7 @@ void FormView::refreshShown() {
     const bool shown = window_.visible || (stays_ && isVisible());
     if (isVisible() == shown && minimised_ == window_.minimised) return;
     const bool comesBack = windowHandle() != nullptr;
-    if (comesBack && !isVisible()) move(pos());
+    if (comesBack && !isVisible()) windowHandle()->setPosition(windowHandle()->position());
     if (std::exchange(minimised_, window_.minimised) && onWayland()) hide();  // there is no other way back
     setWindowState(window_.minimised ? windowState() | Qt::WindowMinimized
                                      : windowState() & ~Qt::WindowMinimized);

@@ -66,12 +66,15 @@ BoxAnswer QtBoxes::show(const Box& box) {
     const QString yesText = box.english ? QStringLiteral("&Yes") : QStringLiteral("&Ja");
     const QString noText = box.english ? QStringLiteral("&No") : QStringLiteral("&Nein");
     const QString cancelText = box.english ? QStringLiteral("Cancel") : QStringLiteral("Abbrechen");
-    QPushButton* const yes = window.addButton(yesText, QMessageBox::YesRole);
-    QPushButton* const no = window.addButton(noText, QMessageBox::NoRole);
+    // One role for all: the buttons stand in this order on every desktop, and none of them is taken for a way
+    // out. A question without Cancel has no way out but its buttons.
+    QPushButton* const yes = window.addButton(yesText, QMessageBox::ActionRole);
+    QPushButton* const no = window.addButton(noText, QMessageBox::ActionRole);
     window.setDefaultButton(box.noIsDefault ? no : yes);
-    window.setEscapeButton(no);
     if (box.buttons == BoxButtons::yesNoCancel) {
-        window.setEscapeButton(window.addButton(cancelText, QMessageBox::RejectRole));
+        window.setEscapeButton(window.addButton(cancelText, QMessageBox::ActionRole));
+    } else {
+        window.setWindowFlag(Qt::WindowCloseButtonHint, false);
     }
     window.exec();
     const QAbstractButton* const clicked = window.clickedButton();

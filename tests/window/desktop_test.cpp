@@ -136,6 +136,27 @@ TEST_F(DesktopTest, StaysOnTopAsTheSameWindow) {
     EXPECT_TRUE(comesTrue([&] { return other->isOnTop(view); }));
 }
 
+// One that the window manager has placed and a hand has moved.
+TEST_F(DesktopTest, HiddenWindowComesBackWhereAHandHasMovedIt) {
+    const QString id = QString::number(view.winId());
+    const QPoint before = view.pos();
+    QProcess::execute(QStringLiteral("wmctrl"), {QStringLiteral("-i"), QStringLiteral("-r"), id,
+                                                 QStringLiteral("-e"), QStringLiteral("0,117,130,-1,-1")});
+    ASSERT_TRUE(comesTrue([&] { return view.pos() != before; }));
+    letPass(100);
+    const QPoint moved = view.pos();
+    for (int i = 0; i < 5; ++i) {
+        window().visible = false;
+        view.refresh();
+        letPass(100);
+        window().visible = true;
+        view.refresh();
+        ASSERT_TRUE(comesTrue([&] { return view.isActiveWindow(); }));
+        letPass(100);
+        EXPECT_EQ(view.pos(), moved);
+    }
+}
+
 TEST_F(DesktopTest, HiddenWindowComesBackToTheFrontWhereItWas) {
     window().place.left = 300 * twipsPerPixel;
     window().place.top = 200 * twipsPerPixel;

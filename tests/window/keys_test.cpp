@@ -76,7 +76,7 @@ TEST_F(WindowTest, ShiftSelectsAndTheEditKeysCopyPasteAndUndo) {
 }
 
 TEST_F(WindowTest, FunctionKeysAndArrowsActWithControlAltAndSuper) {
-    const int f8 = keys::f8, f4 = 70, super = 133;
+    const int f8 = 74, f4 = 70, super = 133;
     std::vector<int> codes;
     state().eingabe.onKeyDown = [&](int& code) {
         if (code != keyCode::alt) codes.push_back(std::exchange(code, 0));

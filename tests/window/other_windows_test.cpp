@@ -114,7 +114,7 @@ TEST_F(WindowTest, AnEndedSessionLeavesNothingOnTheScreen) {
 }
 
 TEST_F(StartTest, AKeyTypedAheadOpensItsBoxOverTheMainWindow) {
-    typeFromTheBeginning([&] { hands.stroke({keys::f8}); }, 1);
+    typeFromTheBeginning([&] { hands.stroke({keys::f10}); }, 1);
     bool answered = false;
     whenAWindowOpens([&](QWidget& box) {
         EXPECT_EQ(box.parentWidget()->objectName(), QStringLiteral("Pultform"));

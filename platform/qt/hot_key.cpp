@@ -100,61 +100,65 @@ void HotKey::grab() {
 void HotKey::release() {
     if (!std::exchange(grabbed_, false)) return;
     qApp->removeNativeEventFilter(this);
-    ungrabKeys();
+    changeGrabs({});
 }
 
+// The keypad's plus with Control, whatever locks are on.
 void HotKey::grabKeys() {
-    xcb_connection_t* const x = connection();
-    const Keyboard keyboard(x);
-    keyCodes_ = keyboard.codesOf(keypadAdd);
+    const Keyboard keyboard(connection());
     const std::uint16_t capsMask = XCB_MOD_MASK_LOCK;
     const std::uint16_t numMask = keyboard.modifierOf(numLock);
-    for (const auto keyCode : keyCodes_) {
+    std::vector<Grab> wanted;
+    for (const std::uint8_t keyCode : keyboard.codesOf(keypadAdd)) {
         for (const int locks : {0, +capsMask, +numMask, capsMask | numMask}) {
-            // Owner events are off: with them the repeats of the key would be typed into the own window.
-            const auto grab =
-                xcb_grab_key_checked(x, 0, root(x), static_cast<std::uint16_t>(XCB_MOD_MASK_CONTROL | locks),
-                                     keyCode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-            xcb_discard_reply(x, grab.sequence);  // and the error where another program has the key
+            wanted.push_back({keyCode, static_cast<std::uint16_t>(XCB_MOD_MASK_CONTROL | locks)});
         }
     }
-    xcb_flush(x);
+    changeGrabs(wanted);
     down_ = false;
 }
 
-void HotKey::ungrabKeys() {
+// What stays is not let go in between: a press that comes meanwhile is not lost.
+void HotKey::changeGrabs(const std::vector<Grab>& wanted) {
     xcb_connection_t* const x = connection();
-    for (const auto keyCode : keyCodes_) xcb_ungrab_key(x, keyCode, root(x), XCB_MOD_MASK_ANY);
+    for (const Grab& grab : wanted) {
+        // Owner events are off: with them the repeats of the key would be typed into the own window.
+        const auto asked = xcb_grab_key_checked(x, 0, root(x), grab.modifiers, grab.keyCode,
+                                                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+        xcb_discard_reply(x, asked.sequence);  // and the error where another program has the key
+    }
+    for (const Grab& grab : grabs_) {
+        const bool stays = std::find(wanted.begin(), wanted.end(), grab) != wanted.end();
+        if (!stays) xcb_ungrab_key(x, grab.keyCode, root(x), grab.modifiers);
+    }
     xcb_flush(x);
+    grabs_ = wanted;
 }
 
 bool HotKey::nativeEventFilter(const QByteArray& eventType, void* message, qintptr*) {
     if (eventType != "xcb_generic_event_t") return false;
     constexpr int sentByClient = 0x80;
     const int type = static_cast<const xcb_generic_event_t*>(message)->response_type & ~sentByClient;
-    if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) return keyEvent(message, type == XCB_KEY_PRESS);
-    if (keyboardChanged(message)) {
-        ungrabKeys();
-        grabKeys();
-    }
+    if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) keyEvent(message, type == XCB_KEY_PRESS);
+    if (keyboardChanged(message)) grabKeys();
     return false;
 }
 
-bool HotKey::keyEvent(const void* message, bool down) {
+void HotKey::keyEvent(const void* message, bool down) {
     const auto& event = *static_cast<const xcb_key_press_event_t*>(message);
-    if (event.event != root(connection()) ||
-        std::find(keyCodes_.begin(), keyCodes_.end(), event.detail) == keyCodes_.end()) {
-        return false;
-    }
+    const bool own = std::any_of(grabs_.begin(), grabs_.end(),
+                                 [&](const Grab& grab) { return grab.keyCode == event.detail; });
+    if (event.event != root(connection()) || !own) return;
     // A held key repeats as a release and a press of the same millisecond.
     const bool repeated = down_ || event.time == releasedAt_;
     down_ = down;
     if (!down) {
         releasedAt_ = event.time;
     } else if (!repeated) {
-        pressed_();
+        // Not before the toolkit has taken the time of the event: a window that then asks for the keyboard
+        // with an older time does not get it.
+        QMetaObject::invokeMethod(&context_, pressed_, Qt::QueuedConnection);
     }
-    return true;
 }
 
 // A client that knows the keyboard extension, as the toolkit does, is told by its events, any other by the

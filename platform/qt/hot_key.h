@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractNativeEventFilter>
+#include <QObject>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -24,15 +25,22 @@ class HotKey : public QAbstractNativeEventFilter {
 
   private:
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
-    bool keyEvent(const void* message, bool down);
+    void keyEvent(const void* message, bool down);
     bool keyboardChanged(const void* message) const;
     void grabKeys();
-    void ungrabKeys();
+
+    struct Grab {
+        std::uint8_t keyCode;
+        std::uint16_t modifiers;
+        bool operator==(const Grab&) const = default;
+    };
+    void changeGrabs(const std::vector<Grab>& wanted);
 
     std::function<void()> pressed_;
     bool grabbed_ = false;
-    std::vector<std::uint8_t> keyCodes_;  // those of the keypad's plus
-    std::uint8_t keyboardEvent_ = 0;      // type of the keyboard extension's events; 0: none
+    QObject context_;  // for what waits for its turn
+    std::vector<Grab> grabs_;
+    std::uint8_t keyboardEvent_ = 0;  // type of the keyboard extension's events; 0: none
     bool down_ = false;
     std::uint32_t releasedAt_ = 0;  // milliseconds of the X server
 };

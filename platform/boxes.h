@@ -24,8 +24,8 @@ class Boxes {
   public:
     virtual ~Boxes() = default;
 
-    // Shows the box and waits for the answer. Closed otherwise, as by Esc, it answers ok or cancel; a question
-    // without Cancel cannot be closed otherwise.
+    // Shows the box and waits for the answer. Closed otherwise, as by Esc, it answers ok or cancel; a
+    // question without Cancel cannot be closed otherwise.
     virtual BoxAnswer show(const Box& box) = 0;
 };
 

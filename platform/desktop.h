@@ -11,10 +11,11 @@ class Desktop {
     virtual ~Desktop() = default;
 
     // Set by the program before it shows its first window. Each runs like the handler of a control.
-    std::function<void()> onHotKey;                // Control and the keypad's plus, whatever window is in use
-    std::function<void()> onTrayDoubleClick;       // double click on the icon
-    std::function<void()> onTrayShow, onTrayExit;  // the entries of its menu
-    std::function<void()> onSessionEnd;            // log-off, shutdown, or a request to terminate
+    std::function<void()> onHotKey;           // Control and the keypad's plus, whatever window is in use
+    std::function<void()> onTrayDoubleClick;  // double click on the icon
+    std::function<void()> onTrayShow;         // an entry of its menu, and a second start in the folder
+    std::function<void()> onTrayExit;         // the other one
+    std::function<void()> onSessionEnd;       // log-off, shutdown, or a request to terminate
 
     // Whether there is a tray now. Without one a window is minimised instead of hidden.
     virtual bool hasTray() = 0;
@@ -26,6 +27,9 @@ class Desktop {
     // A key that another program holds, or a desktop that gives none, is no failure.
     virtual void registerHotKey() = 0;
     virtual void unregisterHotKey() = 0;
+
+    // A second start waits from now on for the end of this one.
+    virtual void endSummons() = 0;
 
     // Opens a file of the program folder with the program that the desktop has for it. A failure is silent.
     virtual void openDocument(const std::string& fileName) = 0;

@@ -118,11 +118,12 @@ void LifeCycle::hideInTray() {
     inTray_ = true;
 }
 
-// A window that the user has minimised comes back where it was.
+// A window that is seen, or that the user has minimised, stays where it is.
 void LifeCycle::showFromTray() {
-    const bool wasMinimised = std::exchange(window_.minimised, false);
+    const bool wasHidden = !window_.visible;
+    window_.minimised = false;
     machine_.windows.show(window_);
-    if (!wasMinimised) {
+    if (wasHidden) {
         window_.place.left = trayRestore_.left;
         window_.place.top = trayRestore_.top;
     }
@@ -154,6 +155,7 @@ void LifeCycle::askToExit() {
 // The session may end while the goodbye is said.
 void LifeCycle::quit(int pause) {
     if (std::exchange(quitting_, true)) return;
+    machine_.desktop.endSummons();
     unload();
     machine_.clipboard.clear();
     sayGoodbye(pause);

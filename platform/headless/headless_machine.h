@@ -72,6 +72,7 @@ class HeadlessMachine : public Boxes,
     void removeTrayIcon() override;
     void registerHotKey() override {}
     void unregisterHotKey() override {}
+    void endSummons() override {}
     void openDocument(const std::string& fileName) override;
     [[noreturn]] void end() override;
 

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "platform/qt/tape_access.h"
+#include "platform/qt/to_front.h"
 
 namespace zifferon {
 
@@ -294,8 +295,7 @@ void FormView::refreshShown() {
                                      : windowState() & ~Qt::WindowMinimized);
     setVisible(shown);
     if (!comesBack || !shown || window_.minimised) return;
-    raise();
-    activateWindow();
+    bringToFront(*this);
 }
 
 }  // namespace zifferon

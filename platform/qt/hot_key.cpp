@@ -4,34 +4,18 @@
 
 #ifdef ZIFFERON_WITH_XCB
 
-#include <xcb/xcb.h>
-
 #include <QGuiApplication>
 #include <algorithm>
 #include <array>
-#include <cstdlib>
-#include <memory>
 #include <string_view>
+
+#include "platform/qt/x11.h"
 
 namespace zifferon {
 
 namespace {
 
 constexpr xcb_keysym_t keypadAdd = 0xFFAB, numLock = 0xFF7F;
-
-struct Free {
-    void operator()(void* reply) const { std::free(reply); }
-};
-template <typename Answer>
-using Reply = std::unique_ptr<Answer, Free>;
-
-// Null where the screen is no X server's.
-xcb_connection_t* connection() {
-    const auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 != nullptr ? x11->connection() : nullptr;
-}
-
-xcb_window_t root(xcb_connection_t* x) { return xcb_setup_roots_iterator(xcb_get_setup(x)).data->root; }
 
 // What the keys of the keyboard mean, and which of them are modifiers.
 class Keyboard {
@@ -72,14 +56,14 @@ class Keyboard {
 
   private:
     xcb_keycode_t first_;
-    Reply<xcb_get_keyboard_mapping_reply_t> mapping_;
-    Reply<xcb_get_modifier_mapping_reply_t> modifiers_;
+    X11Reply<xcb_get_keyboard_mapping_reply_t> mapping_;
+    X11Reply<xcb_get_modifier_mapping_reply_t> modifiers_;
 };
 
 std::uint8_t keyboardExtensionEvent(xcb_connection_t* x) {
     constexpr std::string_view name = "XKEYBOARD";
     const auto asked = xcb_query_extension(x, name.size(), name.data());
-    const Reply<xcb_query_extension_reply_t> extension(xcb_query_extension_reply(x, asked, nullptr));
+    const X11Reply<xcb_query_extension_reply_t> extension(xcb_query_extension_reply(x, asked, nullptr));
     return extension && extension->present ? extension->first_event : 0;
 }
 
@@ -90,7 +74,7 @@ HotKey::HotKey(std::function<void()> pressed) : pressed_(std::move(pressed)) {}
 HotKey::~HotKey() { release(); }
 
 void HotKey::grab() {
-    xcb_connection_t* const x = connection();
+    xcb_connection_t* const x = x11Connection();
     if (x == nullptr || std::exchange(grabbed_, true)) return;
     keyboardEvent_ = keyboardExtensionEvent(x);
     qApp->installNativeEventFilter(this);
@@ -105,7 +89,7 @@ void HotKey::release() {
 
 // The keypad's plus with Control, whatever locks are on.
 void HotKey::grabKeys() {
-    const Keyboard keyboard(connection());
+    const Keyboard keyboard(x11Connection());
     const std::uint16_t capsMask = XCB_MOD_MASK_LOCK;
     const std::uint16_t numMask = keyboard.modifierOf(numLock);
     std::vector<Grab> wanted;
@@ -120,16 +104,16 @@ void HotKey::grabKeys() {
 
 // What stays is not let go in between: a press that comes meanwhile is not lost.
 void HotKey::changeGrabs(const std::vector<Grab>& wanted) {
-    xcb_connection_t* const x = connection();
+    xcb_connection_t* const x = x11Connection();
     for (const Grab& grab : wanted) {
         // Owner events are off: with them the repeats of the key would be typed into the own window.
-        const auto asked = xcb_grab_key_checked(x, 0, root(x), grab.modifiers, grab.keyCode,
+        const auto asked = xcb_grab_key_checked(x, 0, x11Root(x), grab.modifiers, grab.keyCode,
                                                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
         xcb_discard_reply(x, asked.sequence);  // and the error where another program has the key
     }
     for (const Grab& grab : grabs_) {
         const bool stays = std::find(wanted.begin(), wanted.end(), grab) != wanted.end();
-        if (!stays) xcb_ungrab_key(x, grab.keyCode, root(x), grab.modifiers);
+        if (!stays) xcb_ungrab_key(x, grab.keyCode, x11Root(x), grab.modifiers);
     }
     xcb_flush(x);
     grabs_ = wanted;
@@ -139,26 +123,25 @@ bool HotKey::nativeEventFilter(const QByteArray& eventType, void* message, qintp
     if (eventType != "xcb_generic_event_t") return false;
     constexpr int sentByClient = 0x80;
     const int type = static_cast<const xcb_generic_event_t*>(message)->response_type & ~sentByClient;
-    if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) keyEvent(message, type == XCB_KEY_PRESS);
+    if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) return keyEvent(message, type == XCB_KEY_PRESS);
     if (keyboardChanged(message)) grabKeys();
     return false;
 }
 
-void HotKey::keyEvent(const void* message, bool down) {
+bool HotKey::keyEvent(const void* message, bool down) {
     const auto& event = *static_cast<const xcb_key_press_event_t*>(message);
     const bool own = std::any_of(grabs_.begin(), grabs_.end(),
                                  [&](const Grab& grab) { return grab.keyCode == event.detail; });
-    if (event.event != root(connection()) || !own) return;
+    if (event.event != x11Root(x11Connection()) || !own) return false;
     // A held key repeats as a release and a press of the same millisecond.
     const bool repeated = down_ || event.time == releasedAt_;
     down_ = down;
     if (!down) {
         releasedAt_ = event.time;
     } else if (!repeated) {
-        // Not before the toolkit has taken the time of the event: a window that then asks for the keyboard
-        // with an older time does not get it.
-        QMetaObject::invokeMethod(&context_, pressed_, Qt::QueuedConnection);
+        pressed_();
     }
+    return true;
 }
 
 // A client that knows the keyboard extension, as the toolkit does, is told by its events, any other by the

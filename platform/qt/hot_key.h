@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QAbstractNativeEventFilter>
-#include <QObject>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -25,7 +24,7 @@ class HotKey : public QAbstractNativeEventFilter {
 
   private:
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
-    void keyEvent(const void* message, bool down);
+    bool keyEvent(const void* message, bool down);
     bool keyboardChanged(const void* message) const;
     void grabKeys();
 
@@ -38,7 +37,6 @@ class HotKey : public QAbstractNativeEventFilter {
 
     std::function<void()> pressed_;
     bool grabbed_ = false;
-    QObject context_;  // for what waits for its turn
     std::vector<Grab> grabs_;
     std::uint8_t keyboardEvent_ = 0;  // type of the keyboard extension's events; 0: none
     bool down_ = false;

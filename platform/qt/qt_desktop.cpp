@@ -6,8 +6,17 @@
 
 #include "platform/qt/application.h"
 #include "platform/qt/form_view.h"
+#include "platform/qt/to_front.h"
 
 namespace zifferon {
+
+void QtDesktop::attachTo(FormView& mainWindow) {
+    mainWindow_ = &mainWindow;
+    const int callers = summons_.listen();
+    if (callers < 0) return;
+    summonsNotifier_ = std::make_unique<QSocketNotifier>(callers, QSocketNotifier::Read);
+    QObject::connect(summonsNotifier_.get(), &QSocketNotifier::activated, [this] { summoned(); });
+}
 
 void QtDesktop::addTrayIcon() {
     if (!tray_) makeTray();
@@ -58,6 +67,29 @@ bool QtDesktop::run(const std::function<void()>& handler) {
 
 void QtDesktop::runUnlessModal(const std::function<void()>& handler) {
     if (QApplication::activeModalWidget() == nullptr) run(handler);
+}
+
+void QtDesktop::endSummons() {
+    summonsNotifier_.reset();
+    summons_.endListening();
+}
+
+void QtDesktop::summoned() {
+    const std::optional<std::string> token = summons_.next();
+    if (!token) return;
+    // Where the toolkit looks for it when it asks a Wayland compositor.
+    if (!token->empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(*token));
+    comeForward();
+    summons_.answered();
+}
+
+void QtDesktop::comeForward() {
+    if (QWidget* const modal = QApplication::activeModalWidget()) return bringToFront(*modal);
+    if (run(onTrayShow)) return;
+    // The main window is still to come.
+    for (FormView* const form : FormView::all()) {
+        if (form->isVisible()) bringToFront(*form);
+    }
 }
 
 void QtDesktop::openDocument(const std::string& fileName) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMenu>
+#include <QSocketNotifier>
 #include <QSystemTrayIcon>
 #include <memory>
 
@@ -9,6 +10,7 @@
 #include "platform/qt/hot_key.h"
 #include "platform/qt/portal_hot_key.h"
 #include "platform/qt/session_end.h"
+#include "platform/summons.h"
 
 namespace zifferon {
 
@@ -18,13 +20,15 @@ class FormView;
 class QtDesktop : public Desktop {
   public:
     // Handlers run as those of the main window, and queue their keys there: from now on, as long as it lives.
-    void attachTo(FormView& mainWindow) { mainWindow_ = &mainWindow; }
+    // A second start in the program folder is heard as well.
+    void attachTo(FormView& mainWindow);
 
     bool hasTray() override { return QSystemTrayIcon::isSystemTrayAvailable(); }
     void addTrayIcon() override;
     void removeTrayIcon() override;
     void registerHotKey() override;
     void unregisterHotKey() override;
+    void endSummons() override;
 
     // The guide has a page in HTML beside it, for a desktop without a viewer for compressed help.
     void openDocument(const std::string& fileName) override;
@@ -38,11 +42,15 @@ class QtDesktop : public Desktop {
     void makeTray();
     bool run(const std::function<void()>& handler);
     void runUnlessModal(const std::function<void()>& handler);
+    void summoned();
+    void comeForward();
 
     FormView* mainWindow_ = nullptr;
     std::unique_ptr<Tray> tray_;  // none before the first icon
     HotKey hotKey_{[this] { runUnlessModal(onHotKey); }};
     PortalHotKey portalHotKey_{[this] { runUnlessModal(onHotKey); }};
+    Summons summons_;
+    std::unique_ptr<QSocketNotifier> summonsNotifier_;
     SessionEnd sessionEnd_{[this] { return run(onSessionEnd); }};
 };
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/qt/form_view.h"
+#include "platform/qt/to_front.h"
 
 namespace zifferon {
 
@@ -55,9 +56,7 @@ void QtWindows::show(Window& window) {
     window.visible = true;
     FormView::refreshAll();
     leave_.start(longestLeave);
-    if (!wasSeen) return;
-    view->raise();
-    view->activateWindow();
+    if (wasSeen) bringToFront(*view);
 }
 
 void QtWindows::hide(Window& window) {

@@ -15,6 +15,8 @@ namespace zifferon {
 
 namespace {
 
+constexpr int longestWaitForTheFolder = 5000;  // milliseconds
+
 // Thrown through the handlers that wait for a modal window to close.
 class ScriptOver {};
 class BeginsAnew {};
@@ -223,6 +225,7 @@ void ScriptRunner::start(ScriptLine& line) {
 }
 
 void ScriptRunner::beginAnew() {
+    if (!folder_.take(longestWaitForTheFolder)) throw MalformedScript("another program runs in this folder");
     program_.reset();
     headless_.beginAnew();
     program_ = std::make_unique<Program>(machine_);

@@ -11,6 +11,7 @@
 #include "platform/headless/faulty_files.h"
 #include "platform/headless/headless_machine.h"
 #include "platform/headless/headless_system.h"
+#include "platform/folder_lock.h"
 #include "platform/posix_files.h"
 #include "programs/script/script_line.h"
 #include "shell/program.h"
@@ -65,6 +66,7 @@ class ScriptRunner {
     std::ostream& errors_;
     HeadlessMachine headless_;
     HeadlessSystem system_;
+    FolderLock folder_;
     PosixFiles disk_;
     FaultyFiles files_;
     Machine machine_;

@@ -71,8 +71,7 @@ FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
       window_(window),
       keys_(keys),
       timers_(window, [this](const auto& tick) { run(tick); }),
-      keyEvents_(*this, keys),
-      place_{window.place.left, window.place.top, 0, 0} {
+      keyEvents_(*this, keys) {
     offerTapesToScreenReaders();
     setObjectName(toQString(window.name));
     setWindowFlags(frameOf(window, owner != nullptr));
@@ -176,12 +175,19 @@ void FormView::becomeActive() {
 void FormView::activationDue() {
     const std::vector<FormView*> forms = all();
     const bool waits = std::any_of(forms.begin(), forms.end(), [this](const FormView* form) {
-        return form != this && form->stays_ && form->isActiveWindow();
+        return form != this && form->stays_ && form->isActiveWindow() && form->keyEvents_.keysCame();
     });
     if (waits) return activation_.start(longestWait);
+    for (FormView* form : forms) {
+        if (form != this) form->leave();
+    }
     // Hidden and shown again while no other program was there, a window may have got the keyboard unnoticed.
     if (QGuiApplication::focusWindow() == windowHandle()) QApplication::setActiveWindow(this);
     becomeActive();
+}
+
+void FormView::leave() {
+    if (std::exchange(stays_, false)) refreshShown();
 }
 
 void FormView::settleActivation() {
@@ -282,6 +288,14 @@ void FormView::refreshFocus() {
     }
 }
 
+// Where the program wants it; without a wish in the middle of its owner or of the screen.
+QPoint FormView::startPosition() const {
+    if (window_.place.left != 0 || window_.place.top != 0) return pos();
+    const QRect around = parentWidget() != nullptr ? parentWidget()->frameGeometry()
+                                                   : QGuiApplication::primaryScreen()->availableGeometry();
+    return around.center() - QRect({}, pixels(window_.place).size()).center();
+}
+
 // A window that comes back comes to the front, and where it was: left to itself, the window manager would
 // look for a new place. A new one comes to the front by itself; asked to bring it there at the same time,
 // some window managers take the keyboard away from it once more, and keys are lost.
@@ -293,6 +307,7 @@ void FormView::refreshShown() {
     if (std::exchange(minimised_, window_.minimised) && onWayland()) hide();  // there is no other way back
     setWindowState(window_.minimised ? windowState() | Qt::WindowMinimized
                                      : windowState() & ~Qt::WindowMinimized);
+    if (!comesBack && shown) move(startPosition());
     setVisible(shown);
     if (!comesBack || !shown || window_.minimised) return;
     bringToFront(*this);

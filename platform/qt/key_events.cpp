@@ -203,6 +203,7 @@ void KeyEvents::letGoOfAll() {
 }
 
 void KeyEvents::keyPressed(const QKeyEvent& event) {
+    keysCame_ = true;
     form_.settleActivation();
     settleReleaseBefore(event);
     const quint32 scanCode = event.nativeScanCode();

@@ -24,6 +24,9 @@ class KeyEvents : public QObject {
     // Watches `form` from now on; the form outlives it.
     KeyEvents(FormView& form, KeyRoad& keys);
 
+    // Whether any key has been pressed so far.
+    bool keysCame() const { return keysCame_; }
+
     // Of every key that is down, as when another window or a menu takes the keyboard.
     void letGoOfAll();
 
@@ -41,6 +44,7 @@ class KeyEvents : public QObject {
 
     FormView& form_;
     KeyRoad& keys_;
+    bool keysCame_ = false;
 
     // Physical keys that are down, by scan code: the key itself may be another one at its release, when Shift
     // was let go first.

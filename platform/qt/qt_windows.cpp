@@ -1,7 +1,6 @@
 #include "platform/qt/qt_windows.h"
 
 #include <QApplication>
-#include <QScreen>
 #include <algorithm>
 
 #include "platform/qt/form_view.h"
@@ -11,17 +10,7 @@ namespace zifferon {
 
 struct QtWindows::Shown {
     Shown(Window& window, Sound& sound, QWidget* owner)
-        : keys(window, [&sound] { sound.beep(); }), view(window, keys, owner) {
-        view.move(startOf(window.place, owner));
-    }
-
-    // Where the program wants it; without a wish in the middle of its owner or of the screen.
-    static QPoint startOf(const Place& place, const QWidget* owner) {
-        if (place.left != 0 || place.top != 0) return pixels(place).topLeft();
-        const QRect around =
-            owner != nullptr ? owner->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry();
-        return around.center() - pixels(place).center();
-    }
+        : keys(window, [&sound] { sound.beep(); }), view(window, keys, owner) {}
 
     KeyRoad keys;
     FormView view;

@@ -68,6 +68,26 @@ TEST_F(StartTest, NoKeyIsLostWhileTheMainWindowWaitsForTheKeyboard) {
     additionsFromTheBeginningAllCome();
 }
 
+TEST_F(StartTest, StandsWhereTheLoadingWindowStood) {
+    program.start();
+    ASSERT_TRUE(comesTrue([&] { return view.isActiveWindow(); }));
+    letPass(100);
+    const QPoint middle = QGuiApplication::primaryScreen()->availableGeometry().center();
+    EXPECT_LT((view.frameGeometry().center() - middle).manhattanLength(), 40);
+}
+
+TEST_F(StartTest, ADesktopThatKeepsTheKeyboardIsNotWaitedFor) {
+    view.setAttribute(Qt::WA_ShowWithoutActivating);
+    program.start();
+    const auto alone = [&] {
+        const auto forms = FormView::all();
+        return std::count_if(forms.begin(), forms.end(),
+                             [](const QWidget* form) { return form->isVisible(); }) == 1;
+    };
+    EXPECT_TRUE(comesTrue([&] { return alone() && !program.pultform.caption.empty(); }, 1500));
+    EXPECT_TRUE(view.isVisible());
+}
+
 TEST_F(StartTest, AMessageBeforeTheFirstShowingCloses) {
     TrayHost tray;
     if (!tray.start()) GTEST_SKIP() << "missing: trayer";

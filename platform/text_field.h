@@ -74,6 +74,7 @@ class TextField : public Control {
 
     bool multiLine = false;
     int pageLines = 20;    // of several lines: how far Page Up and Page Down go
+    bool bare = false;     // of several lines: shown without scroll bar and caret
     bool shrinks = false;  // of one line: a text too long for the field is shown smaller, and never cut
     bool locked = false;   // editing keys change nothing; writing by code does
     bool blankIgnoresLimit =

@@ -29,7 +29,8 @@ class Window {
 
     bool alwaysOnTop = false;
     bool minimised = false;
-    bool framed = true;  // whether the system draws a frame and a title around it
+    bool framed = true;     // whether the system draws a frame and a title around it
+    bool closeable = true;  // whether its title has the buttons to close and minimise it
 
     std::function<void()> onMouseMove;  // over the window itself
     std::function<void()> onActivate;   // it has become the one in use

@@ -91,16 +91,26 @@ void ask(CalculatorState& state, Files& files, Boxes& boxes, TextView opening) {
     writeSingle(files, settingsFile::decimalSeparator, choice);
 }
 
-}  // namespace
-
-DecimalSeparator separatorOfLocale(std::string_view code) {
+// Of an identifier in hexadecimal digits; 0, which is none, for any other text.
+std::uint32_t numberOf(std::string_view code) {
     std::uint32_t number = 0;
     const char* const end = code.data() + code.size();
     const auto [behind, error] = std::from_chars(code.data(), end, number, 16);
-    if (code.size() != 8 || error != std::errc() || behind != end) return DecimalSeparator::unknown;
+    return code.size() == 8 && error == std::errc() && behind == end ? number : 0;
+}
+
+}  // namespace
+
+DecimalSeparator separatorOfLocale(std::string_view code) {
+    const std::uint32_t number = numberOf(code);
     if (std::binary_search(commaLocales.begin(), commaLocales.end(), number)) return DecimalSeparator::comma;
     if (std::binary_search(pointLocales.begin(), pointLocales.end(), number)) return DecimalSeparator::point;
     return DecimalSeparator::unknown;
+}
+
+bool isGermanLocale(std::string_view code) {
+    constexpr std::uint32_t languageBits = 0x3FF, german = 0x07;
+    return (numberOf(code) & languageBits) == german;
 }
 
 void settleSeparator(CalculatorState& state, Files& files, Boxes& boxes) {

@@ -16,6 +16,9 @@ enum class DecimalSeparator { comma, point, unknown };
 // is, it is unknown.
 DecimalSeparator separatorOfLocale(std::string_view code);
 
+// Whether the locale of that identifier is one of German, in whatever country.
+bool isGermanLocale(std::string_view code);
+
 // Settles decimalPointStyle for a locale that is unknown: by decpoint.dat, or by a question whose answer is
 // stored there. Throws FileFailure where the answer cannot be stored; it holds all the same.
 void settleSeparator(CalculatorState& state, Files& files, Boxes& boxes);

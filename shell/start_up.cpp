@@ -59,7 +59,12 @@ constexpr TextView damagedLetterhead =
 
 StartUp::StartUp(CalculatorState& state, Kopf& kopf, CalculationRecord& record, WindowModes& modes,
                  Machine& machine)
-    : kopf_(kopf), record_(record), modes_(modes), machine_(machine), s(state) {}
+    : kopf_(kopf),
+      record_(record),
+      modes_(modes),
+      machine_(machine),
+      s(state),
+      form3_(isGermanLocale(machine.system.GetDecStyle())) {}
 
 void StartUp::run() {
     checkComponents();

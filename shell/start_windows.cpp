@@ -18,7 +18,7 @@ void placeLabel(Control& label, Place place, TextView caption, double points = 8
 
 }  // namespace
 
-Form3::Form3() {
+Form3::Form3(bool germanDesktop) {
     name = u"Form3";
     caption = u"Zifferon PRO 5.0 - Setup";
     framed = false;
@@ -27,29 +27,49 @@ Form3::Form3() {
     add(line, u"line");
     add(Label1, u"Label1");
     add(Label2, u"Label2");
-    add(Command1, u"Command1");
-    add(Command2, u"Command2");
     add(Picture1, u"Picture1");
     placeLabel(heading, {15, 15, 5670, 345}, u" Zifferon PRO 5.0 - Setup", 9, true);
     heading.foreColour = paleBlue;
     heading.backColour = darkBlue;
     placeLabel(line, {225, 600, 5250, 255},
                u"Bitte wählen Sie Ihre Sprache aus!     Please choose your language!");
-    placeLabel(Label1, {900, 1065, 1500, 255}, u"     Deutsch");
-    placeLabel(Label2, {3300, 1065, 1500, 255}, u"       English");
-    Command1.place = {900, 1380, 1500, 540};
-    Command1.caption = u"&Deutsch";
-    Command2.place = {3300, 1380, 1500, 540};
-    Command2.caption = u"&English";
+    // Further left by half of the blanks, so that the words stand above the middle of the buttons.
+    placeLabel(Label1, {790, 1065, 1500, 255}, u"     Deutsch");
+    placeLabel(Label2, {3145, 1065, 1500, 255}, u"       English");
+    line.alignment = Label1.alignment = Label2.alignment = Alignment::centre;
+    addButton(Command1, u"Command1", u"&Deutsch", 900, Choice::german);
+    addButton(Command2, u"Command2", u"&English", 3300, Choice::english);
+    Command1.picture = u"flag_de";
+    Command2.picture = u"flag_en";
     Picture1.place = {-3000, 0, 300, 300};
     Picture1.locked = true;
-    Command1.onClick = [this] { choose(Choice::german); };
-    Command2.onClick = [this] { choose(Choice::english); };
+    Picture1.onGotFocus = [this, germanDesktop] { setFocus(germanDesktop ? Command1 : Command2); };
     onActivate = [this] { setFocus(Picture1); };
     onAnswer = [this](BoxAnswer answer) {
         choose(answer == BoxAnswer::english ? Choice::english : Choice::german);
     };
     onDismiss = [this] { visible = false; };
+}
+
+void Form3::addButton(Control& button, TextView controlName, TextView buttonCaption, int left,
+                      Choice choice) {
+    add(button, controlName);
+    button.place = {left, 1380, 1500, 540};
+    button.caption = buttonCaption;
+    button.onClick = [this, choice] { choose(choice); };
+    button.onKeyDown = [this, &button](int& code) { keyDown(button, code); };
+    button.onKeyPress = [this, &button](char16_t& character) { keyPress(button, character); };
+}
+
+void Form3::keyDown(const Control& button, int code) {
+    const bool arrow = code >= keyCode::left && code <= keyCode::down;
+    if (arrow || code == keyCode::tab) setFocus(&button == &Command1 ? Command2 : Command1);
+}
+
+void Form3::keyPress(const Control& button, char16_t character) {
+    if (character == u'\r' || character == u' ') button.onClick();
+    if (character == u'd' || character == u'D') choose(Choice::german);
+    if (character == u'e' || character == u'E') choose(Choice::english);
 }
 
 void Form3::choose(Choice choice) {
@@ -60,23 +80,24 @@ void Form3::choose(Choice choice) {
 Form1::Form1(bool english) : english_(english) {
     name = u"Form1";
     caption = english ? u"loading program....." : u"lade Programm.....";
-    place = {0, 0, 5100, 2850};
+    place = {0, 0, 6000, 2850};
     add(label, u"label");
     add(load, u"load");
-    placeLabel(label, {300, 150, 4500, 300},
+    placeLabel(label, {300, 150, 5400, 300},
                english ? u"    Loading Zifferon PRO 5.0..." : u"Zifferon PRO 5.0 wird geladen...", 12, true);
     for (int i = 0; i < cellCount; ++i) {
         Control& cell = cells[static_cast<std::size_t>(i)];
         add(cell, u"cell");
-        cell.place = {300 + 225 * i, 570, 195, 240};
+        cell.place = {300 + 283 * i, 570, 240, 240};
         cell.backColour = darkBlue;
         cell.visible = false;
     }
-    load.place = {300, 990, 4410, 1200};
+    load.place = {300, 990, 5334, 1200};
     load.font = {u"Arial", 8.25, false};
     load.backColour = lightGrey;
     load.multiLine = true;
     load.locked = true;
+    load.bare = true;
     load.takesFocus = true;
     // Alt alone says nothing without the letter that it was pressed for.
     load.onKeyDown = [this](int& code) {
@@ -87,7 +108,8 @@ Form1::Form1(bool english) : english_(english) {
         typedAhead_.back().character = std::exchange(character, u'\0');
     };
     onActivate = [this] { setFocus(load); };
-    onDismiss = [] {};  // it offers no way out; it goes by itself
+    closeable = false;  // it goes by itself
+    onDismiss = [] {};
 }
 
 void Form1::fillCell(int index) {

@@ -9,10 +9,12 @@
 
 namespace zifferon {
 
-// The first run: a button for each language.
+// The first run: a button for each language. Tab and the arrows go from one to the other, Enter and the blank
+// press the one that has the focus, and D and E press theirs.
 class Form3 : public Window {
   public:
-    Form3();
+    // The focus begins at the language of the desktop.
+    explicit Form3(bool germanDesktop);
 
     enum class Choice { none, german, english };
     Choice choice() const { return choice_; }
@@ -20,9 +22,12 @@ class Form3 : public Window {
     Control heading{ControlKind::label}, line{ControlKind::label};
     Control Label1{ControlKind::label}, Label2{ControlKind::label};
     Control Command1{ControlKind::button}, Command2{ControlKind::button};
-    TextField Picture1;  // takes the keyboard from the buttons
+    TextField Picture1;  // hands the keyboard on to the first button
 
   private:
+    void addButton(Control& button, TextView controlName, TextView buttonCaption, int left, Choice choice);
+    void keyDown(const Control& button, int code);
+    void keyPress(const Control& button, char16_t character);
     void choose(Choice choice);
 
     Choice choice_ = Choice::none;

@@ -60,8 +60,9 @@ FormView* active = nullptr;
 Qt::WindowFlags frameOf(const Window& window, bool owned) {
     Qt::WindowFlags flags = owned ? Qt::Dialog : Qt::Window;
     if (!window.framed) return flags | Qt::FramelessWindowHint;
-    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
-    return flags | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    if (!window.closeable) return flags;
+    return flags | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
 }
 
 }  // namespace

@@ -59,6 +59,9 @@ std::optional<Key> namedKey(int key) {
             return Key{keyCode::escape, 27};
         case Qt::Key_Backspace:
             return Key{keyCode::back, 8};
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            return Key{keyCode::tab};
         case Qt::Key_Delete:
             return Key{keyCode::del};
         case Qt::Key_Insert:

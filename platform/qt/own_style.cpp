@@ -56,6 +56,18 @@ int OwnStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidge
     }
 }
 
+// A button that has the keyboard shows it, however it came to it.
+void OwnStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                           const QWidget* widget) const {
+    const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element != CE_PushButton || button == nullptr || !(button->state & State_HasFocus)) {
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    }
+    QStyleOptionButton focused(*button);
+    focused.state |= State_KeyboardFocusChange;
+    QProxyStyle::drawControl(element, &focused, painter, widget);
+}
+
 void OwnStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                   QPainter* painter, const QWidget* widget) const {
     if (control == CC_ScrollBar) return drawScrollBar(*option, *painter, widget);

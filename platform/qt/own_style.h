@@ -17,6 +17,8 @@ class OwnStyle : public QProxyStyle {
   private:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
     void drawScrollBar(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;

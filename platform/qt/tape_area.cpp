@@ -39,7 +39,7 @@ QString borrowed(TextView text) {
 TapeArea::TapeArea(TextField& field, QWidget* parent)
     : QAbstractScrollArea(parent), field_(field), follower_(field) {
     setFrameShape(QFrame::NoFrame);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(field.bare ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setBackgroundRole(QPalette::Base);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, viewport(), qOverload<>(&QWidget::update));
@@ -114,7 +114,7 @@ void TapeArea::paintEvent(QPaintEvent* event) {
         paintLine(painter, i, top);
         if (hasFocus()) paintSelection(painter, i, top);
     }
-    if (!hasFocus()) return;
+    if (!hasFocus() || field_.bare) return;
     const QRect caret = rectAt(caret_);
     painter.fillRect(caret.x(), caret.y(), 1, caret.height(), palette().color(QPalette::Text));
 }

@@ -16,6 +16,11 @@
 namespace zifferon {
 namespace {
 
+TEST(Locale, tellsGermanInWhateverCountry) {
+    for (const char* code : {"00000407", "00000c07", "00000807"}) EXPECT_TRUE(isGermanLocale(code)) << code;
+    for (const char* code : {"00000409", "0000040C", "", "407"}) EXPECT_FALSE(isGermanLocale(code)) << code;
+}
+
 TEST(Locale, tableSortsTheLocales) {
     using enum DecimalSeparator;
     for (const char* code : {"00000407", "00000C07", "00001007", "00000c0c", "0000040C", "00000410",

@@ -10,6 +10,7 @@
 #include "platform/headless/headless_system.h"
 #include "platform/posix_files.h"
 #include "shell/program.h"
+#include "shell/start_windows.h"
 #include "tests/support/fresh_folder.h"
 
 namespace zifferon {
@@ -27,6 +28,28 @@ constexpr std::array delivered = {"font.zfr",
                                   "zifferonpro-help_de.chm",
                                   "zifferonpro-help_en.chm",
                                   "quicksave.zfr"};
+
+// What a hand without a mouse chooses in the window of the first run.
+TEST(LanguageWindow, isUsedByTheKeyboard) {
+    using Choice = Form3::Choice;
+    constexpr Key tab{keyCode::tab}, left{keyCode::left}, enter{keyCode::enter, 13};
+    const auto chosen = [](bool germanDesktop, const std::vector<Key>& typed) {
+        Form3 window(germanDesktop);
+        KeyRoad keys(window, [] {});
+        window.visible = true;
+        window.onActivate();
+        for (const Key key : typed) keys.stroke(key);
+        return window.choice();
+    };
+    EXPECT_EQ(chosen(true, {enter}), Choice::german);
+    EXPECT_EQ(chosen(false, {keyOfCharacter(u' ')}), Choice::english);
+    EXPECT_EQ(chosen(true, {tab, enter}), Choice::english);
+    EXPECT_EQ(chosen(false, {left, keyOfCharacter(u' ')}), Choice::german);
+    EXPECT_EQ(chosen(true, {tab, left, enter}), Choice::german);
+    EXPECT_EQ(chosen(true, {keyOfCharacter(u'e')}), Choice::english);
+    EXPECT_EQ(chosen(false, {keyOfCharacter(u'D')}), Choice::german);
+    EXPECT_EQ(chosen(true, {keyOfCharacter(u'x'), tab}), Choice::none);
+}
 
 class Start : public testing::Test {
   protected:

@@ -4,6 +4,8 @@
 #include <functional>
 #include <string>
 
+#include "platform/text.h"
+
 namespace zifferon {
 
 class Desktop {
@@ -23,6 +25,9 @@ class Desktop {
     // Adding an icon that is there, and removing one that is not, does nothing.
     virtual void addTrayIcon() = 0;
     virtual void removeTrayIcon() = 0;
+
+    // Tells something beside the icon, where the desktop shows such messages.
+    virtual void tellFromTray(TextView text) = 0;
 
     // A key that another program holds, or a desktop that gives none, is no failure.
     virtual void registerHotKey() = 0;

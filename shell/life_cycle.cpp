@@ -36,7 +36,7 @@ void LifeCycle::show() {
     machine_.desktop.onTrayExit = [this] { askToExit(); };
     machine_.desktop.onSessionEnd = [this] { quit(pauseAfterTray); };
     window_.minitimer.onTick = [this] { minitimerTick(); };
-    window_.onDismiss = [this] { hideInTray(); };
+    window_.onDismiss = [this] { closed(); };
     window_.onActivate = [this] { activated(); };
     machine_.windows.show(window_);
 }
@@ -104,6 +104,15 @@ void LifeCycle::beginSnapshots(const StartOptions& options) {
 // frame.
 void LifeCycle::queueLayoutCycle() {
     for (int i = 0; i < 3; ++i) s.calls.SendKeysEx(u"{F2}");
+}
+
+// Who closes the window for the first time may take the program for ended.
+void LifeCycle::closed() {
+    hideInTray();
+    if (!inTray_ || std::exchange(toldOfTray_, true)) return;
+    machine_.desktop.tellFromTray(
+        s.inLanguage(u"Zifferon PRO läuft hier weiter. Ein Doppelklick zeigt das Fenster wieder.",
+                     u"Zifferon PRO goes on running here. A double click brings the window back."));
 }
 
 void LifeCycle::hideInTray() {

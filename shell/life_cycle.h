@@ -43,6 +43,7 @@ class LifeCycle {
 
     // Tray, hot key, end of the session.
     bool hidden() const { return !window_.visible || window_.minimised; }
+    void closed();
     void hideInTray();
     void showFromTray();
     void hotKeyPressed();
@@ -62,6 +63,7 @@ class LifeCycle {
     CalculatorState& s;
     bool firstActivateDone_ = false;
     bool inTray_ = false;
+    bool toldOfTray_ = false;
     bool layoutCyclePending_ = false;
     bool quitting_ = false;
     Place trayRestore_;

@@ -202,12 +202,12 @@ void Program::playTapeSound() {
     machine_.sound.play(s.keySound == 0 ? "rattle1.wav" : "rattle2.wav");
 }
 
-// The sound of the start comes once; a run that starts silent never plays it.
+// The sound of the start comes once; a run that starts silent, or in the tray, never plays it.
 void Program::wireSounds() {
     pultform.Timer2.onTick = [this] {
         CalculatorState& s = pultform.state;
         pultform.Timer2.stop();
-        if (std::exchange(s.startSoundDone, true) || !s.Checksound.ticked()) return;
+        if (std::exchange(s.startSoundDone, true) || !s.Checksound.ticked() || !pultform.visible) return;
         machine_.sound.play("start.wav");
     };
 }

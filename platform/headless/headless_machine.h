@@ -70,6 +70,7 @@ class HeadlessMachine : public Boxes,
     bool hasTray() override { return true; }
     void addTrayIcon() override;
     void removeTrayIcon() override;
+    void tellFromTray(TextView) override {}
     void registerHotKey() override {}
     void unregisterHotKey() override {}
     void endSummons() override {}

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QProcess>
+#include <QTimer>
 
 #include "platform/qt/application.h"
 #include "platform/qt/form_view.h"
@@ -40,9 +41,26 @@ void QtDesktop::makeTray() {
     tray_->icon.setToolTip(QStringLiteral("Zifferon PRO"));
     tray_->icon.setContextMenu(&tray_->menu);
     QObject::connect(&tray_->icon, &QSystemTrayIcon::activated,
-                     [this](QSystemTrayIcon::ActivationReason reason) {
-                         if (reason == QSystemTrayIcon::DoubleClick) runUnlessModal(onTrayDoubleClick);
-                     });
+                     [this](QSystemTrayIcon::ActivationReason reason) { trayClicked(reason); });
+}
+
+// The right button opens the menu by itself; pressed twice, it shows the window.
+void QtDesktop::trayClicked(QSystemTrayIcon::ActivationReason reason) {
+    if (reason == QSystemTrayIcon::DoubleClick) return runUnlessModal(onTrayDoubleClick);
+    if (reason != QSystemTrayIcon::Context) return;
+    QElapsedTimer& since = tray_->sinceRightClick;
+    if (!since.isValid() || since.restart() > QApplication::doubleClickInterval()) return since.start();
+    since.invalidate();
+    tray_->menu.hide();
+    runUnlessModal(onTrayShow);
+}
+
+void QtDesktop::tellFromTray(TextView text) {
+    constexpr int untilTheIconStands = 500, shown = 10000;  // milliseconds
+    QTimer::singleShot(untilTheIconStands, &tray_->icon, [this, message = toQString(text)] {
+        if (!tray_->icon.isVisible()) return;
+        tray_->icon.showMessage(QStringLiteral("Zifferon PRO 5.0"), message, tray_->icon.icon(), shown);
+    });
 }
 
 // In a Wayland session an X server, if any, sees only the keys that are typed into its own windows.

@@ -1,6 +1,7 @@
 // The desktop beside the windows, on Qt: tray, hot key, and the end of the session.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMenu>
 #include <QSocketNotifier>
 #include <QSystemTrayIcon>
@@ -26,6 +27,7 @@ class QtDesktop : public Desktop {
     bool hasTray() override { return QSystemTrayIcon::isSystemTrayAvailable(); }
     void addTrayIcon() override;
     void removeTrayIcon() override;
+    void tellFromTray(TextView text) override;
     void registerHotKey() override;
     void unregisterHotKey() override;
     void endSummons() override;
@@ -37,9 +39,11 @@ class QtDesktop : public Desktop {
     struct Tray {
         QMenu menu;
         QSystemTrayIcon icon;
+        QElapsedTimer sinceRightClick;
     };
 
     void makeTray();
+    void trayClicked(QSystemTrayIcon::ActivationReason reason);
     bool run(const std::function<void()>& handler);
     void runUnlessModal(const std::function<void()>& handler);
     void summoned();

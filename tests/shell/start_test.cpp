@@ -155,6 +155,31 @@ TEST_F(Start, bringsStoredFiguresUnderTheSeparatorsInForce) {
     EXPECT_EQ(program.pultform.state.anzeige.text(), u"\r\n1.234,50      \r\n1.00 +   ");
 }
 
+// The sound of the start comes from a window that is seen; in the tray it neither sounds nor is made up for.
+TEST_F(Start, soundsOnlyWhereItIsSeen) {
+    {
+        Program program(machine_);
+        program.keys.run([&] { program.start(); });
+        program.keys.run([&] { program.pultform.state.Checksound.setTicked(true); });
+        for (const char16_t key : Text(u"5+")) program.keys.stroke(keyOfCharacter(key));
+    }
+    folder_.put("quicksave.zfr", folder_.bytes("Temp/temp1.tmp"));
+    const std::string seen, inTray = fromHex("04 00 00 00 00 00 04 00 00 00 00 00 02 00 00 00 02 00 01 00");
+    for (const auto& [options, sounds] : {std::pair(seen, true), std::pair(inTray, false)}) {
+        folder_.put("winstate.dat", options);
+        log_.str("");
+        headless_.beginAnew();
+        Program program(machine_);
+        program.keys.run([&] { program.start(); });
+        headless_.wait(20, program.pultform, program.keys);
+        EXPECT_EQ(logHas("sound start.wav"), sounds);
+        EXPECT_EQ(program.pultform.visible, sounds);
+        program.keys.run(headless_.onTrayShow);
+        headless_.wait(20, program.pultform, program.keys);
+        EXPECT_EQ(logHas("sound start.wav"), sounds);
+    }
+}
+
 // A number between two schemes is none, and leaves the designed colours.
 TEST_F(Start, takesOnlyWholeNumbersForColourSchemes) {
     for (const auto& [bytes, scheme] : {std::pair("00 00 20 40", 0), std::pair("00 00 40 40", 3)}) {

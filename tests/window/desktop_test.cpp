@@ -264,6 +264,8 @@ TEST_F(DesktopTest, TrayIconAndItsMenu) {
     hands.click();
     hands.click();
     EXPECT_TRUE(comesTrue([&] { return seen == "double "; }, 2000)) << seen;
+    const int forHands = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(100);  // each opening of the menu is a click of its own
     for (const auto& entries : {std::initializer_list<int>{down, keys::enter}, {down, down, keys::enter}}) {
         hands.click(right);
         ASSERT_TRUE(comesTrue([] { return QApplication::activePopupWidget() != nullptr; })) << seen;
@@ -274,14 +276,26 @@ TEST_F(DesktopTest, TrayIconAndItsMenu) {
         letPass(500);
     }
     EXPECT_TRUE(comesTrue([&] { return seen == "double show exit "; }, 2000)) << seen;
+    QApplication::setDoubleClickInterval(forHands);
+    hands.click(right);
+    hands.click(right);
+    EXPECT_TRUE(comesTrue([&] { return seen == "double show exit show "; }, 2000)) << seen;
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 
+    desktop.tellFromTray(u"here");
+    EXPECT_TRUE(comesTrue([] {
+        const auto widgets = QApplication::topLevelWidgets();
+        return std::any_of(widgets.begin(), widgets.end(), [](const QWidget* widget) {
+            return widget->inherits("QBalloonTip") && widget->isVisible();
+        });
+    }));
     desktop.removeTrayIcon();
     desktop.removeTrayIcon();
     letPass(200);
     hands.click();
     hands.click();
     letPass(200);
-    EXPECT_EQ(seen, "double show exit ");
+    EXPECT_EQ(seen, "double show exit show ");
     tray.stop();
     EXPECT_TRUE(comesTrue([&] { return !desktop.hasTray(); }));
 }

@@ -11,10 +11,13 @@ namespace zifferon {
 
 namespace {
 
+// Then the application begins with that one, whatever was chosen before.
+bool anotherStyleIsWanted() { return qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE"); }
+
 // Chosen before the application begins, which would otherwise make another style first.
 int& withOwnStyle(int& argc) {
     QApplication::setDesktopSettingsAware(false);
-    QApplication::setStyle(new OwnStyle);
+    if (!anotherStyleIsWanted()) QApplication::setStyle(new OwnStyle);
     return argc;
 }
 
@@ -40,7 +43,7 @@ QFont boxFont() { return arial(13); }
 
 Application::Application(int& argc, char** argv) : QApplication(withOwnStyle(argc), argv) {
     setQuitOnLastWindowClosed(false);
-    if (qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE")) setStyle(new OwnStyle);  // that one came later
+    if (anotherStyleIsWanted()) setStyle(new OwnStyle);
     setPalette(OwnStyle::palette());
     setFont(arial(11));  // that of most controls: each font more is seen at the start
     QToolTip::setPalette(palette());

@@ -70,6 +70,9 @@ void QtWindows::showBefore(Window& window) {
     shown->view.stay();
     leave_.start(longestLeave);
     runUntilHidden(shown->view);
+    QObject::connect(shown->view.windowHandle(), &QWindow::visibleChanged, &leave_, [this](bool seen) {
+        if (!seen) leave_.start(0);
+    });
     leaving_ = std::move(shown);
 }
 

@@ -44,7 +44,7 @@ class StartTest : public WindowTest {
         const Text& tape = state().anzeige.text();
         EXPECT_TRUE(comesTrue([&] { return std::count(tape.begin(), tape.end(), u'\n') == additions; }))
             << std::count(tape.begin(), tape.end(), u'\n');
-        EXPECT_TRUE(view.isActiveWindow());
+        EXPECT_TRUE(comesTrue([&] { return view.isActiveWindow(); }));
     }
 
     void typeFromTheBeginning(const std::function<void()>& type, int times) {
@@ -79,12 +79,8 @@ TEST_F(StartTest, StandsWhereTheLoadingWindowStood) {
 TEST_F(StartTest, ADesktopThatKeepsTheKeyboardIsNotWaitedFor) {
     view.setAttribute(Qt::WA_ShowWithoutActivating);
     program.start();
-    const auto alone = [&] {
-        const auto forms = FormView::all();
-        return std::count_if(forms.begin(), forms.end(),
-                             [](const QWidget* form) { return form->isVisible(); }) == 1;
-    };
-    EXPECT_TRUE(comesTrue([&] { return alone() && !program.pultform.caption.empty(); }, 1500));
+    const auto alone = [&] { return FormView::all().size() == 1 && !program.pultform.caption.empty(); };
+    EXPECT_TRUE(comesTrue(alone, 1500));
     EXPECT_TRUE(view.isVisible());
 }
 

@@ -30,9 +30,9 @@ class FormView : public QWidget {
     // Makes ready what a hidden window will show.
     void prepare();
 
-    // Once it is shown it stays on the screen, also when its window is hidden, until it is destroyed or another
-    // one has come: then it leaves when that one has the keyboard or, if nothing has been typed into it, when
-    // the desktop has had its time to hand the keyboard over.
+    // Once it is shown it stays on the screen, also when its window is hidden, until it is destroyed or
+    // another one has come: then it leaves when that one has the keyboard or, if nothing has been typed into
+    // it, when the desktop has had its time to hand the keyboard over.
     void stay() { stays_ = true; }
 
     // The forms of the program.

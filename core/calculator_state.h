@@ -8,6 +8,7 @@
 #include "core/calc_value.h"
 #include "core/number_text.h"
 #include "platform/control.h"
+#include "platform/language.h"
 #include "platform/text_field.h"
 #include "platform/timer.h"
 
@@ -84,7 +85,7 @@ struct CalculatorState {
     bool tapeDirty = false;
     float messageTicks = 0;
     int undoCounter = 0;
-    bool languageEnglish = false;
+    Language language = Language::german;  // of all texts that are written from now on
 
     // Undo.
     bool undoActive = false, undoStepPending = false, tapeEmptied = false;
@@ -105,9 +106,7 @@ struct CalculatorState {
     Calls calls;
 
     Separators separators() const { return decimalPointStyle == 1 ? pointStyle : commaStyle; }
-    TextView inLanguage(TextView german, TextView english) const {
-        return languageEnglish ? english : german;
-    }
+    TextView inLanguage(Words words) const { return words.in(language); }
 };
 
 // Sets decimalPointStyle and brings the figures that stand in the fields and variables into its separators;

@@ -12,8 +12,8 @@ namespace zifferon {
 
 void KeyPress::addDifferenceHeadingOnTape() {
     tape::addLine(s.anzeige, {u"\r\n",
-                              s.inLanguage(u"« « « « « « Differenz in Prozent » » » » » »          ",
-                                           u" « « « « « « Difference in percent » » » » » »         "),
+                              s.inLanguage({u"« « « « « « Differenz in Prozent » » » » » »          ",
+                                            u" « « « « « « Difference in percent » » » » » »         "}),
                               u"\r\n"});
 }
 
@@ -21,8 +21,8 @@ void KeyPress::openDifference() {
     addDifferenceHeadingOnTape();
     tape::addLine(s.superdruck,
                   {u"\r\n",
-                   s.inLanguage(u"          « « « « « « Differenz in Prozent » » » » » »         ",
-                                u"         « « « « « « Difference in percent » » » » » »         "),
+                   s.inLanguage({u"          « « « « « « Differenz in Prozent » » » » » »         ",
+                                 u"         « « « « « « Difference in percent » » » » » »         "}),
                    u"\r\n"});
     differenceStage();
 }
@@ -71,7 +71,7 @@ void KeyPress::cancelDifference() {
 
 void KeyPress::takeFirstValue() {
     s.differenceValue1 = s.eingabe.text();
-    const TextView label = s.inLanguage(u"Wert 1:   ", u"1st value:   ");
+    const TextView label = s.inLanguage({u"Wert 1:   ", u"1st value:   "});
     const Text value = format(s.differenceValue1, s.tapeFormat, s.separators());
     tape::addLine(s.anzeige, {label, value, u"      "});
     tape::addLine(s.superdruck, {tape::pad(label.size() + value.size()), label, value, u"\r\n"});
@@ -83,7 +83,7 @@ void KeyPress::takeFirstValue() {
 
 void KeyPress::takeSecondValue() {
     s.differenceValue2 = s.eingabe.text();
-    const TextView label = s.inLanguage(u"Wert 2:   ", u"2nd value:   ");
+    const TextView label = s.inLanguage({u"Wert 2:   ", u"2nd value:   "});
     const Text value = format(s.differenceValue2, s.tapeFormat, s.separators());
     tape::addLine(s.anzeige, {label, value, u"      \r\n"});
     Text printLine = tape::pad(label.size() + value.size());
@@ -107,11 +107,11 @@ void KeyPress::differenceResult() {
     s.differencePercent = percent;
     const Text value = format(s.differencePercent, s.tapeFormat, separators);
     s.zwischen.alignment = Alignment::right;
-    Text shown(s.inLanguage(u"Differenz: ", u"Difference: "));
+    Text shown(s.inLanguage({u"Differenz: ", u"Difference: "}));
     shown += value + u" %";
     s.zwischen.setText(shown);
     s.differenceShown = true;
-    const TextView label = s.inLanguage(u"Differenz:   ", u"Difference:   ");
+    const TextView label = s.inLanguage({u"Differenz:   ", u"Difference:   "});
     tape::addLine(s.anzeige, {label, value, u" %      \r\n", tape::tapeStars, u"\r\n"});
     tape::addLine(s.superdruck, {tape::pad(label.size() + value.size() + 2), label, value, u" %\r\n",
                                  tape::printStars, u" \r\n"});

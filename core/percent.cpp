@@ -71,7 +71,7 @@ void KeyPress::percentResult() {
     s.txtop.setText(u"=");
     s.eingabe.caretToEnd();
     Text sentence = format(s.percentRate, s.numberFormat, separators);
-    sentence += s.inLanguage(u" %  von  ", u" %  of  ");
+    sentence += s.inLanguage({u" %  von  ", u" %  of  "});
     sentence += format(s.percentBase, s.numberFormat, separators);
     tape::addLine(s.anzeige, {sentence, u"      \r\n\r\n", shown, u" =   "});
     tape::addLine(s.superdruck,

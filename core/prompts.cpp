@@ -11,8 +11,8 @@ constexpr TextView secondEnglish = u"     Enter the 2nd value and press ENTER";
 
 }  // namespace
 
-TextView firstPrompt(const CalculatorState& s) { return s.inLanguage(firstGerman, firstEnglish); }
-TextView secondPrompt(const CalculatorState& s) { return s.inLanguage(secondGerman, secondEnglish); }
+TextView firstPrompt(const CalculatorState& s) { return s.inLanguage({firstGerman, firstEnglish}); }
+TextView secondPrompt(const CalculatorState& s) { return s.inLanguage({secondGerman, secondEnglish}); }
 
 bool secondPromptStands(const CalculatorState& s) {
     return s.zwischen.is(secondGerman) || s.zwischen.is(secondEnglish);
@@ -23,7 +23,7 @@ bool promptStands(const CalculatorState& s) {
 }
 
 bool promptWordStands(const CalculatorState& s) {
-    return s.zwischen.contains(s.inLanguage(u"Wert", u"valu"));
+    return s.zwischen.contains(s.inLanguage({u"Wert", u"valu"}));
 }
 
 }  // namespace zifferon

@@ -33,15 +33,15 @@ void addClose(CalculatorState& s) {
 
 void addCancelOnTape(CalculatorState& s) {
     addLine(s.anzeige, {u"\r\n",
-                        s.inLanguage(u" « « « « « « Rechnung abgebrochen » » » » » »       ",
-                                     u"  « « « « « « Calculation canceled » » » » » »         "),
+                        s.inLanguage({u" « « « « « « Rechnung abgebrochen » » » » » »       ",
+                                      u"  « « « « « « Calculation canceled » » » » » »         "}),
                         u"\r\n"});
 }
 
 void addCancelOnPrint(CalculatorState& s) {
     addLine(s.superdruck, {u"\r\n          ",
-                           s.inLanguage(u"« « « « « « Rechnung abgebrochen » » » » » » ",
-                                        u"« « « « « « Calculation canceled » » » » » » "),
+                           s.inLanguage({u"« « « « « « Rechnung abgebrochen » » » » » » ",
+                                         u"« « « « « « Calculation canceled » » » » » » "}),
                            u"\r\n"});
 }
 

@@ -41,9 +41,9 @@ HelpWindow::HelpWindow() {
             if (code == keyCode::escape) visible = false;
         };
     }
-    setCaptions(false);
-    setTitle(false);
-    showReference(false);
+    setCaptions(Language::german);
+    setTitle(Language::german);
+    showReference(Language::german);
 }
 
 void HelpWindow::addTexts() {
@@ -86,18 +86,18 @@ void HelpWindow::addButtons() {
     Command1.onClick = [this] { visible = false; };
 }
 
-void HelpWindow::setCaptions(bool english) {
-    Command5.caption = english ? u"Show User's &Guide" : u"&Benutzerleitfaden";
-    Command1.caption = english ? u"&Exit help" : u"Hilfe &schließen";
+void HelpWindow::setCaptions(Language language) {
+    Command5.caption = Words{u"&Benutzerleitfaden", u"Show User's &Guide"}.in(language);
+    Command1.caption = Words{u"Hilfe &schließen", u"&Exit help"}.in(language);
 }
 
-void HelpWindow::setTitle(bool english) {
-    caption = english ? u"Zifferon PRO 5.0 - Help" : u"Zifferon PRO 5.0 - Hilfe";
+void HelpWindow::setTitle(Language language) {
+    caption = Words{u"Zifferon PRO 5.0 - Hilfe", u"Zifferon PRO 5.0 - Help"}.in(language);
 }
 
-void HelpWindow::showReference(bool english) {
-    referenze.visible = english;
-    referenzd.visible = !english;
+void HelpWindow::showReference(Language language) {
+    referenze.visible = language == Language::english;
+    referenzd.visible = language == Language::german;
 }
 
 }  // namespace zifferon

@@ -2,6 +2,7 @@
 // While it is open it takes the place of the main window.
 #pragma once
 
+#include "platform/language.h"
 #include "platform/window.h"
 
 namespace zifferon {
@@ -11,11 +12,11 @@ class HelpWindow : public Window {
     HelpWindow();
 
     // The captions that the window has from its loading on.
-    void setCaptions(bool english);
+    void setCaptions(Language language);
 
     // Those that it gets each time it becomes active, and with a change of the language.
-    void setTitle(bool english);
-    void showReference(bool english);
+    void setTitle(Language language);
+    void showReference(Language language);
 
     // What covers the window in one colour with it.
     Control hintergrund{ControlKind::label};

@@ -47,7 +47,7 @@ class CommandKeys {
         if (is(keyCode::f4) && storePrefix) return desk.calls.askSeparator(), end;
         if (is(keyCode::f3) && storePrefix) switchStoreConfirmation(desk);
         if (is(keyCode::f12)) {
-            if (confirmsQuit(desk.boxes, s, desk.window.caption)) desk.calls.quit();
+            if (confirmsQuit(desk.messages, desk.window.caption)) desk.calls.quit();
             return end;
         }
         return goOn;

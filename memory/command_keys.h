@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "core/calculator_state.h"
-#include "platform/boxes.h"
+#include "platform/messages.h"
 #include "platform/window.h"
 
 namespace zifferon {
@@ -26,7 +26,7 @@ struct CommandCalls {
 struct CommandDesk {
     CalculatorState& state;
     Window& window;
-    Boxes& boxes;
+    const Messages& messages;
     CommandCalls calls;
 };
 

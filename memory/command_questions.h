@@ -9,7 +9,7 @@ void askNumberFormat(CommandDesk& desk);
 void switchStoreConfirmation(CommandDesk& desk);
 
 // The question before every end that the user asks for; whether the answer was Yes. `title` is the window's.
-bool confirmsQuit(Boxes& boxes, const CalculatorState& state, TextView title);
+bool confirmsQuit(const Messages& messages, TextView title);
 
 void showNoTaxRate(CommandDesk& desk);
 void askToPrint(CommandDesk& desk);

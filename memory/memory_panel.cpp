@@ -83,9 +83,9 @@ void MemoryPanel::copyEntryToClipboard() {
 }
 
 void MemoryPanel::confirmStore(std::size_t index) {
-    Text message(s.inLanguage(u"Wert in Speicherplatz M", u"The value has been stored in memory M"));
+    Text message(s.inLanguage({u"Wert in Speicherplatz M", u"The value has been stored in memory M"}));
     message += static_cast<char16_t>(u'1' + index);
-    message += s.inLanguage(u" übertragen", u"");
+    message += s.inLanguage({u" übertragen", u""});
     s.Texterror.setText(message);
     s.Texterror.foreColour = s.zwischen.foreColour;
     s.Texterror.backColour = s.zwischen.backColour;
@@ -111,10 +111,7 @@ void MemoryPanel::storeFirstFree(const Text& value, TextView germanWarning) {
         if (!s.memoryConfirmOff) confirmStore(i);
         return;
     }
-    machine_.boxes.show(
-        {.icon = BoxIcon::warning,
-         .text = Text(s.inLanguage(germanWarning, u"Error while saving. No memory available!  ")),
-         .english = s.languageEnglish});
+    messages_.warn({germanWarning, u"Error while saving. No memory available!  "});
 }
 
 void MemoryPanel::entryDoubleClick() {

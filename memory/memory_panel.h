@@ -5,6 +5,7 @@
 
 #include "core/calculator_state.h"
 #include "platform/machine.h"
+#include "platform/messages.h"
 #include "platform/window.h"
 
 namespace zifferon {
@@ -12,8 +13,9 @@ namespace zifferon {
 class MemoryPanel {
   public:
     // `labels` are the labels M1 to M5 beside the cells.
-    MemoryPanel(CalculatorState& state, std::array<Control, 5>& labels, Window& window, Machine& machine)
-        : s(state), labels_(labels), window_(window), machine_(machine) {}
+    MemoryPanel(CalculatorState& state, std::array<Control, 5>& labels, Window& window, Machine& machine,
+                const Messages& messages)
+        : s(state), labels_(labels), window_(window), machine_(machine), messages_(messages) {}
 
     // Hangs the handlers on the cells, their labels, and the double clicks of the entry and the subtotal
     // line.
@@ -54,6 +56,7 @@ class MemoryPanel {
     std::array<Control, 5>& labels_;
     Window& window_;
     Machine& machine_;
+    const Messages& messages_;
     bool cellHadText_ = false;
 };
 

@@ -56,8 +56,8 @@ void MessageWindow::load() {
     s.eingabe.locked = false;
     s.tapeClearArmed = true;
     if (keptAlwaysOnTop_ == 1) s.Checkob.setTicked(false);
-    Label1.caption = s.inLanguage(u"Es können keine weiteren Arbeitsschritte rückgängig gemacht werden.",
-                                  u"              There is nothing to undo.");
+    Label1.caption = s.inLanguage({u"Es können keine weiteren Arbeitsschritte rückgängig gemacht werden.",
+                                   u"              There is nothing to undo."});
     s.anzeige.setText(u"");
     s.tapeDirty = false;
     s.calls.beep();

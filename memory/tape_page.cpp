@@ -7,12 +7,12 @@
 namespace zifferon {
 
 TapePage::TapePage(CalculatorState& state, TapePageControls& controls, Stripes& stripes, Window& window,
-                   Boxes& boxes, AlwaysOnTopFile alwaysOnTop)
+                   const Messages& messages, AlwaysOnTopFile alwaysOnTop)
     : s(state),
       c(controls),
       stripes_(stripes),
       window_(window),
-      boxes_(boxes),
+      messages_(messages),
       alwaysOnTop_(std::move(alwaysOnTop)) {}
 
 void TapePage::wire() {
@@ -52,8 +52,8 @@ void TapePage::leave() {
 
 void TapePage::setCaptions() {
     for (Control* box : {&c.Check33, &c.insertmode}) {
-        box->caption = s.inLanguage(u"Überschreibmodus", u"overwrite mode");
-        box->place.left = s.languageEnglish ? 6400 : 6200;
+        box->caption = s.inLanguage({u"Überschreibmodus", u"overwrite mode"});
+        box->place.left = s.language == Language::english ? 6400 : 6200;
     }
 }
 
@@ -117,9 +117,7 @@ void TapePage::selectNextCharacter() {
 }
 
 void TapePage::tellInserting() {
-    boxes_.show({.icon = BoxIcon::information,
-                 .text = Text(s.inLanguage(u"Einfügemodus aktiv!   ", u"Insert mode activated!   ")),
-                 .english = s.languageEnglish});
+    messages_.tell({u"Einfügemodus aktiv!   ", u"Insert mode activated!   "});
     window_.setFocus(s.superdruck);
 }
 

@@ -6,7 +6,7 @@
 
 #include "core/calculator_state.h"
 #include "memory/stripes.h"
-#include "platform/machine.h"
+#include "platform/messages.h"
 #include "platform/window.h"
 
 namespace zifferon {
@@ -32,7 +32,7 @@ struct AlwaysOnTopFile {
 class TapePage {
   public:
     TapePage(CalculatorState& state, TapePageControls& controls, Stripes& stripes, Window& window,
-             Boxes& boxes, AlwaysOnTopFile alwaysOnTop);
+             const Messages& messages, AlwaysOnTopFile alwaysOnTop);
 
     // Hangs the handlers on the controls and on the print copy.
     void wire();
@@ -61,7 +61,7 @@ class TapePage {
     TapePageControls& c;
     Stripes& stripes_;
     Window& window_;
-    Boxes& boxes_;
+    const Messages& messages_;
     AlwaysOnTopFile alwaysOnTop_;
     bool overwriteSuspended_ = false;  // a Backspace has made way for itself; the next key overwrites again
     bool insertNoticeGiven_ = false;   // an Enter has ended overwriting, and said so

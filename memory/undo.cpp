@@ -4,10 +4,11 @@
 
 namespace zifferon {
 
-Undo::Undo(CalculatorState& state, CalculationRecord& record, Machine& machine,
+Undo::Undo(CalculatorState& state, CalculationRecord& record, Machine& machine, const Messages& messages,
            std::function<void()> showNothingToUndo)
     : s(state),
       machine_(machine),
+      messages_(messages),
       showNothingToUndo_(std::move(showNothingToUndo)),
       record_(record),
       snapshots_(machine.files) {}
@@ -32,13 +33,11 @@ void Undo::writeSnapshotFile() {
     try {
         snapshots_.write(s.undoCounter, EncodedRecord(record_));
     } catch (const FileFailure&) {
-        machine_.boxes.show(
-            {.icon = BoxIcon::critical,
-             .text = Text(s.inLanguage(u"Zu wenig Arbeitsspeicher zur Auslagerung der temporären   \r\n"
-                                       u"Daten vorhanden. Löschen Sie nicht benötigte Dateien von   \r\n"
-                                       u"Ihrer Festplatte. Zifferon PRO wird beendet!",
-                                       u"Your harddrive is out of memory! Zifferon will be shut down!   ")),
-             .english = s.languageEnglish});
+        messages_.fail(
+            {u"Zu wenig Arbeitsspeicher zur Auslagerung der temporären   \r\n"
+             u"Daten vorhanden. Löschen Sie nicht benötigte Dateien von   \r\n"
+             u"Ihrer Festplatte. Zifferon PRO wird beendet!",
+             u"Your harddrive is out of memory! Zifferon will be shut down!   "});
         machine_.process.end();
     }
 }
@@ -93,28 +92,21 @@ void Undo::stepBack() {
 
 void Undo::showUnreadable() {
     s.undoCounter += 1;
-    machine_.boxes.show(
-        {.icon = BoxIcon::warning,
-         .title = u"Undo",
-         .text = Text(s.inLanguage(u"Der vorige Arbeitsschritt konnte nicht gelesen werden.   \r\n"
-                                   u"Die Rechnung bleibt, wie sie ist.   ",
-                                   u"The previous step could not be read.   \r\n"
-                                   u"The calculation stays as it is.   ")),
-         .english = s.languageEnglish});
+    messages_.titled(u"Undo").warn(
+        {u"Der vorige Arbeitsschritt konnte nicht gelesen werden.   \r\n"
+         u"Die Rechnung bleibt, wie sie ist.   ",
+         u"The previous step could not be read.   \r\n"
+         u"The calculation stays as it is.   "});
     s.calls.focusEntry();
 }
 
 void Undo::showInactive() {
-    machine_.boxes.show(
-        {.icon = BoxIcon::information,
-         .title = u"Undo",
-         .text = Text(s.inLanguage(
-             u"Die Undo-Funktion ist derzeit inaktiv! Um sie aktiv zu setzten, legen Sie   \r\n"
-             u"im Zifferon-Verzeichnis eine Datei mit dem Namen <temp.dat> an und   \r\n"
-             u"starten Sie Zifferon neu.",
-             u"The undo-function is inactive at the moment! To reconfigure it, please create   \r\n"
-             u"the file <temp.dat> in the Zifferon-folder and restart the program.   ")),
-         .english = s.languageEnglish});
+    messages_.titled(u"Undo").tell(
+        {u"Die Undo-Funktion ist derzeit inaktiv! Um sie aktiv zu setzten, legen Sie   \r\n"
+         u"im Zifferon-Verzeichnis eine Datei mit dem Namen <temp.dat> an und   \r\n"
+         u"starten Sie Zifferon neu.",
+         u"The undo-function is inactive at the moment! To reconfigure it, please create   \r\n"
+         u"the file <temp.dat> in the Zifferon-folder and restart the program.   "});
 }
 
 // A wiped tape makes a step without a file; an Undo that ends in one with its sound does not.

@@ -7,6 +7,7 @@
 #include "core/calculator_state.h"
 #include "memory/snapshots.h"
 #include "platform/machine.h"
+#include "platform/messages.h"
 #include "storage/calculation_record.h"
 
 namespace zifferon {
@@ -15,7 +16,7 @@ class Undo {
   public:
     // `record` is the one record of the program: what its last reading told of the switches goes into a
     // snapshot. `showNothingToUndo` shows the window that says so, and returns when it has been closed.
-    Undo(CalculatorState& state, CalculationRecord& record, Machine& machine,
+    Undo(CalculatorState& state, CalculationRecord& record, Machine& machine, const Messages& messages,
          std::function<void()> showNothingToUndo);
 
     // Removes all snapshots.
@@ -50,6 +51,7 @@ class Undo {
 
     CalculatorState& s;
     Machine& machine_;
+    const Messages& messages_;
     std::function<void()> showNothingToUndo_;
     CalculationRecord& record_;
     Snapshots snapshots_;

@@ -1,7 +1,7 @@
 // Modal message boxes. Their text is plain text, whatever a file name in it looks like.
 #pragma once
 
-#include "platform/text.h"
+#include "platform/language.h"
 
 namespace zifferon {
 
@@ -16,8 +16,8 @@ struct Box {
     BoxButtons buttons = BoxButtons::ok;
     Text title = Text(programTitle);
     Text text;
-    bool english = false;      // language of the buttons
-    bool noIsDefault = false;  // the default button is No instead of the first
+    Language language = Language::german;  // of the buttons
+    bool noIsDefault = false;              // the default button is No instead of the first
 };
 
 class Boxes {

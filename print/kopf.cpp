@@ -18,7 +18,7 @@ Text blanks(std::size_t count) { return Text(count, u' '); }
 
 }  // namespace
 
-Kopf::Kopf() {
+Kopf::Kopf(const Language& language) : language_(language) {
     name = u"kopf";
     caption = programTitle;
     framed = false;  // a frame would have a close box
@@ -131,8 +131,8 @@ void Kopf::followBlankTick(const Line& line) {
 }
 
 Text Kopf::blankLineNote() const {
-    return english ? blanks(36) + u"This line will be blank."
-                   : blanks(19) + u"Diese Zeile wird als Leerzeile ausgegeben.";
+    return language_ == Language::english ? blanks(36) + u"This line will be blank."
+                                          : blanks(19) + u"Diese Zeile wird als Leerzeile ausgegeben.";
 }
 
 }  // namespace zifferon

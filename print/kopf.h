@@ -4,15 +4,15 @@
 
 #include <array>
 
+#include "platform/language.h"
 #include "platform/window.h"
 
 namespace zifferon {
 
 class Kopf : public Window {
   public:
-    Kopf();
-
-    bool english = false;  // the language of the note that stands in a blank line
+    // `language` is that of the note which stands in a blank line; it outlives the window.
+    explicit Kopf(const Language& language);
 
     CheckBox checkstamm;  // whether letterhead and footer are printed at all
     CheckBox logo;
@@ -70,6 +70,8 @@ class Kopf : public Window {
 
     void followBlankTick(const Line& line);
     Text blankLineNote() const;
+
+    const Language& language_;
 };
 
 }  // namespace zifferon

@@ -77,10 +77,10 @@ std::vector<MenuEntry> EditCommands::menuOf(const TextField& field) {
     const bool tape = field.multiLine;
     const Text text = tape ? asLines(selected(field)) : copied();
     const Text& wholeTape = (&field == &s.superdruck ? s.superdruck : s.anzeige).text();
-    return {{Text(s.inLanguage(u"Kopieren", u"Copy")), !text.empty(), [this, text] { copy(text); }},
-            {Text(s.inLanguage(u"Einfügen", u"Paste")), !machine_.clipboard.text().empty(),
+    return {{Text(s.inLanguage({u"Kopieren", u"Copy"})), !text.empty(), [this, text] { copy(text); }},
+            {Text(s.inLanguage({u"Einfügen", u"Paste"})), !machine_.clipboard.text().empty(),
              [this] { pasting_.paste(machine_.clipboard.text()); }},
-            {Text(s.inLanguage(u"Rechenstreifen kopieren", u"Copy the whole tape")), !wholeTape.empty(),
+            {Text(s.inLanguage({u"Rechenstreifen kopieren", u"Copy the whole tape"})), !wholeTape.empty(),
              [this, &wholeTape] { copy(asLines(wholeTape)); }}};
 }
 

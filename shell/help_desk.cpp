@@ -5,21 +5,22 @@
 
 namespace zifferon {
 
-HelpDesk::HelpDesk(Pultform& window, Kopf& kopf, HelpWindow& help, Machine& machine,
-                   std::function<bool(const std::string& file, float value)> store)
+HelpDesk::HelpDesk(Pultform& window, Kopf& kopf, HelpWindow& help, Machine& machine, const Messages& messages,
+                   const Settings& settings)
     : window_(window),
       kopf_(kopf),
       help_(help),
       machine_(machine),
       s(window.state),
-      store_(std::move(store)) {}
+      messages_(messages),
+      settings_(settings) {}
 
 void HelpDesk::wire() {
     window_.Hilfe.onClick = [this] { open(); };
     help_.onActivate = [this] { activated(); };
     help_.Timer2.onTick = [this] { keepMainWindowBehind(); };
-    help_.Command2.onClick = [this] { changeLanguage(true); };
-    help_.Command3.onClick = [this] { changeLanguage(false); };
+    help_.Command2.onClick = [this] { changeLanguage(Language::english); };
+    help_.Command3.onClick = [this] { changeLanguage(Language::german); };
     help_.Command5.onClick = [this] { s.calls.openHelp(); };
 }
 
@@ -27,7 +28,7 @@ void HelpDesk::open() {
     const Place before = window_.place;
     const bool savedAlwaysOnTop = s.Checkob.ticked();
     s.Checkob.setTicked(false);
-    help_.setCaptions(s.languageEnglish);
+    help_.setCaptions(s.language);
     help_.place.left = before.left;
     help_.place.top = before.top;
     machine_.windows.showModal(help_);
@@ -40,8 +41,8 @@ void HelpDesk::open() {
 
 void HelpDesk::activated() {
     help_.Timer2.start(1);
-    help_.showReference(s.languageEnglish);
-    help_.setTitle(s.languageEnglish);
+    help_.showReference(s.language);
+    help_.setTitle(s.language);
     help_.place.left = window_.place.left;
     help_.place.top = window_.place.top;
     help_.setFocus(help_.Command1);
@@ -52,23 +53,22 @@ void HelpDesk::keepMainWindowBehind() {
     window_.place = {help_.place.left + 1000, help_.place.top + 1000, 1, 1};
 }
 
-void HelpDesk::changeLanguage(bool english) {
-    help_.showReference(english);
-    if (s.languageEnglish == english) {
+void HelpDesk::changeLanguage(Language language) {
+    help_.showReference(language);
+    if (s.language == language) {
         help_.setFocus(help_.Command1);
         return;
     }
     help_.setFocus(help_.Picture1);
-    const bool stored = store_(settingsFile::language, english ? 1.0F : 0.0F);
-    help_.setCaptions(english);
-    help_.setTitle(english);
-    s.languageEnglish = english;
-    changeCaptions(window_, kopf_, english);
+    const bool stored =
+        settings_.storing(settingsFile::language, [&] { writeLanguage(machine_.files, language); });
+    help_.setCaptions(language);
+    help_.setTitle(language);
+    s.language = language;
+    changeCaptions(window_, kopf_, language);
     if (!stored) return;  // that has been told; the language holds for this run
-    machine_.boxes.show({.icon = BoxIcon::information,
-                         .text = Text(s.inLanguage(u"Die Spracheinstellung wurde auf Deutsch geändert.   ",
-                                                   u"The language has been set to English.   ")),
-                         .english = english});
+    messages_.tell({u"Die Spracheinstellung wurde auf Deutsch geändert.   ",
+                    u"The language has been set to English.   "});
 }
 
 }  // namespace zifferon

@@ -1,21 +1,18 @@
 // The help window over the main one, and the change of the language in it.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "help/help_window.h"
 #include "platform/machine.h"
 #include "print/kopf.h"
 #include "shell/pultform.h"
+#include "shell/settings.h"
 
 namespace zifferon {
 
 class HelpDesk {
   public:
-    // `store` writes a setting and returns whether it is written; if not, it has told so.
-    HelpDesk(Pultform& window, Kopf& kopf, HelpWindow& help, Machine& machine,
-             std::function<bool(const std::string& file, float value)> store);
+    HelpDesk(Pultform& window, Kopf& kopf, HelpWindow& help, Machine& machine, const Messages& messages,
+             const Settings& settings);
 
     void wire();
 
@@ -26,14 +23,15 @@ class HelpDesk {
   private:
     void activated();
     void keepMainWindowBehind();
-    void changeLanguage(bool english);
+    void changeLanguage(Language language);
 
     Pultform& window_;
     Kopf& kopf_;
     HelpWindow& help_;
     Machine& machine_;
     CalculatorState& s;
-    std::function<bool(const std::string& file, float value)> store_;
+    const Messages& messages_;
+    const Settings& settings_;
 };
 
 }  // namespace zifferon

@@ -52,7 +52,8 @@ constexpr std::array letterheadCaptions = {
 Text blanks(std::size_t count) { return Text(count, u' '); }
 
 // The headings of the letterhead's columns stand over them by their blanks.
-void setHeadings(Kopf& kopf, bool english) {
+void setHeadings(Kopf& kopf, Language language) {
+    const bool english = language == Language::english;
     kopf.Label2.caption = english
                               ? u"Blank line" + blanks(42) + u"Headline" + blanks(47) + u"Font size"
                               : u"Leerzeile" + blanks(39) + u"Kopfzeile(n)" + blanks(42) + u"Schriftgröße";
@@ -73,27 +74,26 @@ TextView changedToEnglish(const Caption& caption) {
 
 TextView changedToGerman(const Caption& caption) { return caption.german; }
 
-void setTips(Pultform& window, bool english) {
-    window.Command3.toolTip = english ? u"Window size (F2)" : u"Fenstergröße (F2)";
-    window.Command3.accessibleName = english ? u"Window size" : u"Fenstergröße";
+void setTips(Pultform& window, Language language) {
+    window.Command3.toolTip = Words{u"Fenstergröße (F2)", u"Window size (F2)"}.in(language);
+    window.Command3.accessibleName = Words{u"Fenstergröße", u"Window size"}.in(language);
 }
 
 }  // namespace
 
 void setEnglishCaptions(Pultform& window, Kopf& kopf) {
     setCaptions(window, windowCaptions, atStart);
-    setTips(window, true);
+    setTips(window, Language::english);
     setCaptions(kopf, letterheadCaptions, atStart);
-    setHeadings(kopf, true);
+    setHeadings(kopf, Language::english);
 }
 
-void changeCaptions(Pultform& window, Kopf& kopf, bool english) {
-    const auto choose = english ? changedToEnglish : changedToGerman;
+void changeCaptions(Pultform& window, Kopf& kopf, Language language) {
+    const auto choose = language == Language::english ? changedToEnglish : changedToGerman;
     setCaptions(window, windowCaptions, choose);
-    setTips(window, english);
+    setTips(window, language);
     setCaptions(kopf, letterheadCaptions, choose);
-    setHeadings(kopf, english);
-    kopf.english = english;
+    setHeadings(kopf, language);
 }
 
 }  // namespace zifferon

@@ -11,6 +11,6 @@ namespace zifferon {
 void setEnglishCaptions(Pultform& window, Kopf& kopf);
 
 // Those that a change of the language sets; a few differ from those of a start. Access keys change with them.
-void changeCaptions(Pultform& window, Kopf& kopf, bool english);
+void changeCaptions(Pultform& window, Kopf& kopf, Language language);
 
 }  // namespace zifferon

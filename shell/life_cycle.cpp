@@ -13,7 +13,8 @@
 namespace zifferon {
 
 LifeCycle::LifeCycle(Pultform& window, Kopf& kopf, HelpWindow& help, KeyRoad& keys, Undo& undo,
-                     CalculationRecord& record, WindowModes& modes, Machine& machine)
+                     CalculationRecord& record, WindowModes& modes, Machine& machine,
+                     const Messages& messages)
     : window_(window),
       kopf_(kopf),
       help_(help),
@@ -21,7 +22,8 @@ LifeCycle::LifeCycle(Pultform& window, Kopf& kopf, HelpWindow& help, KeyRoad& ke
       undo_(undo),
       modes_(modes),
       machine_(machine),
-      startUp_(window.state, kopf, record, modes, machine),
+      messages_(messages),
+      startUp_(window.state, kopf, record, modes, machine, messages),
       s(window.state) {}
 
 void LifeCycle::start() {
@@ -85,8 +87,8 @@ void LifeCycle::applySettings() {
     const float mode = readSetting(machine_.files, settingsFile::format);
     s.formatMode = mode == 0 ? 1 : mode;
     applyFormatMode(s);
-    s.languageEnglish = readsEnglish(machine_.files);
-    if (s.languageEnglish) setEnglishCaptions(window_, kopf_);
+    s.language = readLanguage(machine_.files);
+    if (s.language == Language::english) setEnglishCaptions(window_, kopf_);
 }
 
 void LifeCycle::beginSnapshots(const StartOptions& options) {
@@ -111,8 +113,8 @@ void LifeCycle::closed() {
     hideInTray();
     if (!inTray_ || std::exchange(toldOfTray_, true)) return;
     machine_.desktop.tellFromTray(
-        s.inLanguage(u"Zifferon PRO läuft hier weiter. Ein Doppelklick zeigt das Fenster wieder.",
-                     u"Zifferon PRO goes on running here. A double click brings the window back."));
+        s.inLanguage({u"Zifferon PRO läuft hier weiter. Ein Doppelklick zeigt das Fenster wieder.",
+                      u"Zifferon PRO goes on running here. A double click brings the window back."}));
 }
 
 void LifeCycle::hideInTray() {
@@ -156,7 +158,7 @@ void LifeCycle::hotKeyPressed() {
 }
 
 void LifeCycle::askToExit() {
-    if (!confirmsQuit(machine_.boxes, s, window_.caption)) return;
+    if (!confirmsQuit(messages_, window_.caption)) return;
     machine_.desktop.removeTrayIcon();
     quit(pauseAfterTray);
 }
@@ -184,9 +186,9 @@ void LifeCycle::sayGoodbye(int pause) {
     try {
         writeSingle(machine_.files, settingsFile::writeProbe, 0);
     } catch (const FileFailure&) {
-        stopWriteProtected(machine_, readsEnglish(machine_.files));
+        stopWriteProtected(machine_, readLanguage(machine_.files));
     }
-    goodbye_ = std::make_unique<Form2>(readsEnglish(machine_.files));
+    goodbye_ = std::make_unique<Form2>(readLanguage(machine_.files));
     machine_.windows.show(*goodbye_);
     machine_.process.pause(pause);
 }

@@ -19,7 +19,7 @@ namespace zifferon {
 class LifeCycle {
   public:
     LifeCycle(Pultform& window, Kopf& kopf, HelpWindow& help, KeyRoad& keys, Undo& undo,
-              CalculationRecord& record, WindowModes& modes, Machine& machine);
+              CalculationRecord& record, WindowModes& modes, Machine& machine, const Messages& messages);
 
     // Everything between the start of the process and the shown window, in its order. A condition that cannot
     // be mended ends the process after its box.
@@ -59,6 +59,7 @@ class LifeCycle {
     Undo& undo_;
     WindowModes& modes_;
     Machine& machine_;
+    const Messages& messages_;
     StartUp startUp_;
     CalculatorState& s;
     bool firstActivateDone_ = false;

@@ -79,14 +79,11 @@ constexpr TextView englishQuestion =
     u"'DECPOINT.DAT', which is located in the Zifferon PRO folder.   ";
 
 // Asks, takes the answer, and stores it.
-void ask(CalculatorState& state, Files& files, Boxes& boxes, TextView opening) {
-    const BoxAnswer answer =
-        boxes.show({.icon = BoxIcon::question,
-                    .buttons = BoxButtons::yesNo,
-                    .title = u"Zifferon PRO 5.0 - Setup",
-                    .text = Text(opening).append(state.inLanguage(germanQuestion, englishQuestion)),
-                    .english = state.languageEnglish});
-    const float choice = answer == BoxAnswer::yes ? commaChoice : pointChoice;
+void ask(CalculatorState& state, Files& files, const Messages& messages, Words opening) {
+    const Text german = Text(opening.german).append(germanQuestion);
+    const Text english = Text(opening.english).append(englishQuestion);
+    const bool comma = messages.titled(u"Zifferon PRO 5.0 - Setup").confirm({german, english});
+    const float choice = comma ? commaChoice : pointChoice;
     take(state, choice);
     writeSingle(files, settingsFile::decimalSeparator, choice);
 }
@@ -108,20 +105,20 @@ DecimalSeparator separatorOfLocale(std::string_view code) {
     return DecimalSeparator::unknown;
 }
 
-bool isGermanLocale(std::string_view code) {
+Language languageOfLocale(std::string_view code) {
     constexpr std::uint32_t languageBits = 0x3FF, german = 0x07;
-    return (numberOf(code) & languageBits) == german;
+    return (numberOf(code) & languageBits) == german ? Language::german : Language::english;
 }
 
-void settleSeparator(CalculatorState& state, Files& files, Boxes& boxes) {
+void settleSeparator(CalculatorState& state, Files& files, const Messages& messages) {
     const float choice = readSetting(files, settingsFile::decimalSeparator);
     if (choice == commaChoice || choice == pointChoice) return take(state, choice);
-    ask(state, files, boxes, state.inLanguage(germanOpeningAtStart, englishOpeningAtStart));
+    ask(state, files, messages, {germanOpeningAtStart, englishOpeningAtStart});
 }
 
-void askSeparator(CalculatorState& state, Files& files, Boxes& boxes) {
-    state.languageEnglish = readsEnglish(files);
-    ask(state, files, boxes, state.inLanguage(germanOpeningInRun, englishOpeningInRun));
+void askSeparator(CalculatorState& state, Files& files, const Messages& messages) {
+    state.language = readLanguage(files);
+    ask(state, files, messages, {germanOpeningInRun, englishOpeningInRun});
 }
 
 bool hasModernFrame(const System& system) {

@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "core/calculator_state.h"
-#include "platform/boxes.h"
 #include "platform/files.h"
+#include "platform/messages.h"
 #include "platform/system.h"
 
 namespace zifferon {
@@ -16,16 +16,16 @@ enum class DecimalSeparator { comma, point, unknown };
 // is, it is unknown.
 DecimalSeparator separatorOfLocale(std::string_view code);
 
-// Whether the locale of that identifier is one of German, in whatever country.
-bool isGermanLocale(std::string_view code);
+// German for a locale of German, in whatever country; else English.
+Language languageOfLocale(std::string_view code);
 
 // Settles decimalPointStyle for a locale that is unknown: by decpoint.dat, or by a question whose answer is
 // stored there. Throws FileFailure where the answer cannot be stored; it holds all the same.
-void settleSeparator(CalculatorState& state, Files& files, Boxes& boxes);
+void settleSeparator(CalculatorState& state, Files& files, const Messages& messages);
 
 // Asks for the separator during the run, in the language of language.dat. The answer holds at once and is
 // stored in decpoint.dat. Throws FileFailure where it cannot be stored; it holds all the same.
-void askSeparator(CalculatorState& state, Files& files, Boxes& boxes);
+void askSeparator(CalculatorState& state, Files& files, const Messages& messages);
 
 // Whether the desktop's window frames need the taller layouts.
 bool hasModernFrame(const System& system);

@@ -18,15 +18,16 @@ namespace zifferon {
 Program::Program(Machine& machine)
     : keys(pultform, [this] { machine_.sound.beep(); }),
       machine_(machine),
-      cells_(pultform.state, pultform.memoLabels, pultform, machine),
+      messages_(machine.boxes, pultform.state.language),
+      settings_(machine.files, messages_),
+      cells_(pultform.state, pultform.memoLabels, pultform, machine, messages_),
       record_(pultform.state),
-      undo_(pultform.state, record_, machine, [this] { showNothingToUndo(); }),
+      undo_(pultform.state, record_, machine, messages_, [this] { showNothingToUndo(); }),
       modes_(pultform, machine.system),
-      life_(pultform, kopf, help, keys, undo_, record_, modes_, machine),
-      page_(pultform.state, pultform.page, pultform.stripes, pultform, machine.boxes, alwaysOnTopFile()),
-      helpDesk_(pultform, kopf, help, machine,
-                [this](const std::string& file, float value) { return store(file, value); }),
-      commands_{pultform.state, pultform, machine.boxes, {}},
+      life_(pultform, kopf, help, keys, undo_, record_, modes_, machine, messages_),
+      page_(pultform.state, pultform.page, pultform.stripes, pultform, messages_, alwaysOnTopFile()),
+      helpDesk_(pultform, kopf, help, machine, messages_, settings_),
+      commands_{pultform.state, pultform, messages_, {}},
       editing_(pultform, keys, machine) {
     wireCalls();
     wireCommands();
@@ -44,7 +45,7 @@ Program::Program(Machine& machine)
 
 void Program::beginFresh() {
     CalculatorState& s = pultform.state;
-    if (s.languageEnglish) setEnglishCaptions(pultform, kopf);
+    if (s.language == Language::english) setEnglishCaptions(pultform, kopf);
     s.startSoundDone = true;
     s.undoActive = true;
     pultform.visible = true;
@@ -89,8 +90,8 @@ void Program::wireCalls() {
     s.calls.focusEntry = [this] { pultform.setFocus(pultform.state.eingabe); };
     s.calls.placeTexterror = [this] { pultform.placeTexterror(); };
     s.calls.openHelp = [this, &s] {
-        machine_.desktop.openDocument(s.languageEnglish ? "zifferonpro-help_en.chm"
-                                                        : "zifferonpro-help_de.chm");
+        machine_.desktop.openDocument(s.language == Language::english ? "zifferonpro-help_en.chm"
+                                                                      : "zifferonpro-help_de.chm");
     };
     s.calls.beep = [this] { machine_.sound.beep(); };
 }
@@ -108,12 +109,13 @@ void Program::wireCommands() {
         stepBackColours(standardBackScheme);
         stepTextColours(standardTextScheme);
     };
-    calls.writeFormatMode = [this, &s] { return store(settingsFile::format, s.formatMode); };
+    calls.writeFormatMode = [this, &s] { return settings_.store(settingsFile::format, s.formatMode); };
     calls.askSeparator = [this, &s] {
-        storing(settingsFile::decimalSeparator, [&] { askSeparator(s, machine_.files, machine_.boxes); });
+        settings_.storing(settingsFile::decimalSeparator,
+                          [&] { askSeparator(s, machine_.files, messages_); });
     };
     calls.writeStartOptions = [this, &s](bool minimised) {
-        return storing("winstate.dat", [&] {
+        return settings_.storing("winstate.dat", [&] {
             writeStartOptions(machine_.files,
                               {.position = StartOptions::Position{pultform.place.left, pultform.place.top},
                                .windowMode = s.windowMode,
@@ -124,24 +126,20 @@ void Program::wireCommands() {
 
 void Program::stepTextColours(int scheme) {
     pultform.state.textColourScheme = scheme;
-    store(settingsFile::textColours, static_cast<float>(scheme));
+    settings_.store(settingsFile::textColours, static_cast<float>(scheme));
     applyTextScheme(pultform, scheme);
 }
 
 void Program::stepBackColours(int scheme) {
     pultform.state.backColourScheme = scheme;
-    store(settingsFile::backColours, static_cast<float>(scheme));
+    settings_.store(settingsFile::backColours, static_cast<float>(scheme));
     applyBackScheme(pultform, help, scheme);
-}
-
-bool Program::store(const std::string& file, float value) {
-    return storing(file, [&] { writeSingle(machine_.files, file, value); });
 }
 
 AlwaysOnTopFile Program::alwaysOnTopFile() {
     return {.write =
                 [this](bool alwaysOnTop) {
-                    storing("visible.zfr", [&] { writeAlwaysOnTop(machine_.files, alwaysOnTop); });
+                    settings_.storing("visible.zfr", [&] { writeAlwaysOnTop(machine_.files, alwaysOnTop); });
                 },
             .read =
                 [this] {
@@ -151,17 +149,6 @@ AlwaysOnTopFile Program::alwaysOnTopFile() {
                         return false;
                     }
                 }};
-}
-
-// A setting that cannot be written holds for the run, and a box names the file.
-bool Program::storing(const std::string& file, const std::function<void()>& write) {
-    try {
-        write();
-        return true;
-    } catch (const FileFailure&) {
-        tellUnsaved(machine_.boxes, file, pultform.state.languageEnglish);
-        return false;
-    }
 }
 
 void Program::wireEntry() {

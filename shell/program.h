@@ -15,6 +15,7 @@
 #include "shell/help_desk.h"
 #include "shell/life_cycle.h"
 #include "shell/pultform.h"
+#include "shell/settings.h"
 
 namespace zifferon {
 
@@ -23,7 +24,7 @@ class Program {
     explicit Program(Machine& machine);
 
     Pultform pultform;
-    Kopf kopf;
+    Kopf kopf{pultform.state.language};
     HelpWindow help;
     KeyRoad keys;
 
@@ -51,14 +52,12 @@ class Program {
     void publishSubtotal();
     void showNothingToUndo();
     AlwaysOnTopFile alwaysOnTopFile();
-
-    // Whether the setting is written; if not, a box has told it.
-    bool store(const std::string& file, float value);
-    bool storing(const std::string& file, const std::function<void()>& write);
     void stepTextColours(int scheme);
     void stepBackColours(int scheme);
 
     Machine& machine_;
+    const Messages messages_;
+    const Settings settings_;
     MemoryPanel cells_;
     CalculationRecord record_;
     Undo undo_;

@@ -1,16 +1,15 @@
 #include "shell/second_start.h"
 
+#include "platform/messages.h"
 #include "shell/settings_files.h"
 
 namespace zifferon {
 
 void tellRunsAlready(Machine& machine) {
-    const bool english = readsEnglish(machine.files);
-    machine.boxes.show(
-        {.icon = BoxIcon::warning,
-         .text = Text(english ? u"Zifferon PRO is already running in this folder and does not answer.   "
-                              : u"Zifferon PRO läuft in diesem Ordner bereits und antwortet nicht.   "),
-         .english = english});
+    const Language language = readLanguage(machine.files);
+    Messages(machine.boxes, language)
+        .warn({u"Zifferon PRO läuft in diesem Ordner bereits und antwortet nicht.   ",
+               u"Zifferon PRO is already running in this folder and does not answer.   "});
 }
 
 }  // namespace zifferon

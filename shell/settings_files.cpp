@@ -80,7 +80,13 @@ float readSetting(Files& files, const std::string& name) {
     }
 }
 
-bool readsEnglish(Files& files) { return readSetting(files, settingsFile::language) == 1; }
+Language readLanguage(Files& files) {
+    return readSetting(files, settingsFile::language) == 1 ? Language::english : Language::german;
+}
+
+void writeLanguage(Files& files, Language language) {
+    writeSingle(files, settingsFile::language, language == Language::english ? 1 : 0);
+}
 
 void writeSingle(Files& files, const std::string& name, float value) {
     RecordWriter writer;

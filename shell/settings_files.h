@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/files.h"
+#include "platform/language.h"
 #include "platform/text.h"
 
 namespace zifferon {
@@ -29,11 +30,13 @@ float readSingle(Files& files, const std::string& name, float whenZero = 0);
 // The same, but a file that cannot be read is 0, too.
 float readSetting(Files& files, const std::string& name);
 
-// Whether the language on file is English.
-bool readsEnglish(Files& files);
+// The language on file.
+Language readLanguage(Files& files);
 
 // Replaces the first 4 bytes.
 void writeSingle(Files& files, const std::string& name, float value);
+
+void writeLanguage(Files& files, Language language);
 
 // winstate.dat: how the main window starts. 20 bytes: left and top as tagged singles, the window mode and the
 // start in the tray as tagged 16-bit integers. In the three below an item that is no number, and every item

@@ -58,13 +58,14 @@ constexpr TextView damagedLetterhead =
 }  // namespace
 
 StartUp::StartUp(CalculatorState& state, Kopf& kopf, CalculationRecord& record, WindowModes& modes,
-                 Machine& machine)
+                 Machine& machine, const Messages& messages)
     : kopf_(kopf),
       record_(record),
       modes_(modes),
       machine_(machine),
+      messages_(messages),
       s(state),
-      form3_(isGermanLocale(machine.system.GetDecStyle())) {}
+      form3_(languageOfLocale(machine.system.GetDecStyle())) {}
 
 void StartUp::run() {
     checkComponents();
@@ -73,7 +74,7 @@ void StartUp::run() {
     s.suppressClipboard = true;
     readLocale();
     if (readSetting(machine_.files, settingsFile::firstRunDone) == 0) firstRun();
-    s.languageEnglish = readsEnglish(machine_.files);
+    s.language = readLanguage(machine_.files);
     settleUnknownSeparator();
     readFrame();
     showLoadingWindow();
@@ -86,17 +87,17 @@ void StartUp::checkComponents() {
     const bool complete = std::all_of(requiredFiles.begin(), requiredFiles.end(),
                                       [&](const char* name) { return machine_.files.FileExists(name); });
     if (complete) return;
-    machine_.boxes.show({.icon = BoxIcon::critical, .text = Text(missingComponents)});
+    messages_.fail({missingComponents, missingComponents});
     machine_.process.end();
 }
 
 void StartUp::probeWriting() {
-    bool inEnglish = false;
+    Language language = Language::german;
     try {
-        inEnglish = readSingle(machine_.files, settingsFile::language) == 1;
+        if (readSingle(machine_.files, settingsFile::language) == 1) language = Language::english;
         writeSingle(machine_.files, settingsFile::writeProbe, 1);
     } catch (const FileFailure&) {
-        stopWriteProtected(machine_, inEnglish);
+        stopWriteProtected(machine_, language);
     }
 }
 
@@ -117,31 +118,30 @@ void StartUp::readLocale() {
 
 void StartUp::firstRun() {
     machine_.windows.showBefore(form3_);
-    if (form3_.choice() == Form3::Choice::none) machine_.process.end();  // the next start asks again
-    const bool inEnglish = form3_.choice() == Form3::Choice::english;
+    if (!form3_.choice()) machine_.process.end();  // the next start asks again
+    const Language language = *form3_.choice();
     try {
         machine_.files.createFolder("Temp");
-        writeSingle(machine_.files, settingsFile::language, inEnglish ? 1 : 0);
-        machine_.boxes.show({.icon = BoxIcon::information,
-                             .title = inEnglish ? u"Zifferon PRO 5.0 - Setup complete"
-                                                : u"Zifferon PRO 5.0 - Setup abgeschlossen",
-                             .text = Text(inEnglish ? readyEnglish : readyGerman),
-                             .english = inEnglish});
-        s.languageEnglish = inEnglish;
+        writeLanguage(machine_.files, language);
+        s.language = language;
+        messages_
+            .titled(s.inLanguage(
+                {u"Zifferon PRO 5.0 - Setup abgeschlossen", u"Zifferon PRO 5.0 - Setup complete"}))
+            .tell({readyGerman, readyEnglish});
         const float stored = machine_.system.GetSystemName() == "Windows NT" ? 1.0F : 0.0F;
         writeStoredSizes(machine_.files, {.active = stored, .width = 8205, .height = 8085});
         writeSingle(machine_.files, settingsFile::firstRunDone, 1);
     } catch (const FileFailure&) {
-        stopWriteProtected(machine_, inEnglish);
+        stopWriteProtected(machine_, language);
     }
 }
 
 void StartUp::settleUnknownSeparator() {
     if (!s.localeUnknown) return;
     try {
-        settleSeparator(s, machine_.files, machine_.boxes);
+        settleSeparator(s, machine_.files, messages_);
     } catch (const FileFailure&) {
-        tellUnsaved(machine_.boxes, settingsFile::decimalSeparator, s.languageEnglish);
+        tellUnsaved(messages_, settingsFile::decimalSeparator);
     }
 }
 
@@ -156,7 +156,7 @@ void StartUp::readFrame() {
 }
 
 void StartUp::showLoadingWindow() {
-    Form1& form1 = form1_.emplace(s.languageEnglish);
+    Form1& form1 = form1_.emplace(s.language);
     bool begun = false;
     const auto focusLoad = form1.onActivate;
     form1.onActivate = [&] {
@@ -182,11 +182,8 @@ void StartUp::restoreState() {
     } catch (const RecordFailure&) {
         // Told below.
     }
-    machine_.boxes.show({.icon = BoxIcon::warning,
-                         .text = Text(s.inLanguage(
-                             u"quicksave.zfr: Die gespeicherte Rechnung konnte nicht gelesen werden.   ",
-                             u"quicksave.zfr: The stored calculation could not be read.   ")),
-                         .english = s.languageEnglish});
+    messages_.warn({u"quicksave.zfr: Die gespeicherte Rechnung konnte nicht gelesen werden.   ",
+                    u"quicksave.zfr: The stored calculation could not be read.   "});
 }
 
 void StartUp::applyRecord() {
@@ -201,7 +198,6 @@ void StartUp::applyRecord() {
 }
 
 void StartUp::restoreLetterhead() {
-    kopf_.english = s.languageEnglish;
     try {
         readLetterhead(machine_.files, kopf_);
     } catch (const FileFailure&) {
@@ -214,7 +210,7 @@ void StartUp::restoreLetterhead() {
 
 // Told in German, whatever the language.
 void StartUp::stopDamagedLetterhead() {
-    machine_.boxes.show({.icon = BoxIcon::critical, .text = Text(damagedLetterhead)});
+    messages_.fail({damagedLetterhead, damagedLetterhead});
     machine_.process.end();
 }
 

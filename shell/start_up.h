@@ -7,6 +7,7 @@
 #include "core/calculator_state.h"
 #include "platform/key.h"
 #include "platform/machine.h"
+#include "platform/messages.h"
 #include "print/kopf.h"
 #include "shell/start_windows.h"
 #include "shell/window_modes.h"
@@ -17,7 +18,7 @@ namespace zifferon {
 class StartUp {
   public:
     StartUp(CalculatorState& state, Kopf& kopf, CalculationRecord& record, WindowModes& modes,
-            Machine& machine);
+            Machine& machine, const Messages& messages);
 
     // All steps in their order. A condition that cannot be mended ends the process after its box.
     void run();
@@ -43,6 +44,7 @@ class StartUp {
     CalculationRecord& record_;
     WindowModes& modes_;
     Machine& machine_;
+    const Messages& messages_;
     CalculatorState& s;
     Form3 form3_;
     std::optional<Form1> form1_;

@@ -18,7 +18,7 @@ void placeLabel(Control& label, Place place, TextView caption, double points = 8
 
 }  // namespace
 
-Form3::Form3(bool germanDesktop) {
+Form3::Form3(Language ofTheDesktop) {
     name = u"Form3";
     caption = u"Zifferon PRO 5.0 - Setup";
     framed = false;
@@ -37,22 +37,24 @@ Form3::Form3(bool germanDesktop) {
     placeLabel(Label1, {790, 1065, 1500, 255}, u"     Deutsch");
     placeLabel(Label2, {3145, 1065, 1500, 255}, u"       English");
     line.alignment = Label1.alignment = Label2.alignment = Alignment::centre;
-    addButton(Command1, u"Command1", u"&Deutsch", 900, Choice::german);
-    addButton(Command2, u"Command2", u"&English", 3300, Choice::english);
+    addButton(Command1, u"Command1", u"&Deutsch", 900, Language::german);
+    addButton(Command2, u"Command2", u"&English", 3300, Language::english);
     Command1.picture = u"flag_de";
     Command2.picture = u"flag_en";
     Picture1.place = {-3000, 0, 300, 300};
     Picture1.locked = true;
-    Picture1.onGotFocus = [this, germanDesktop] { setFocus(germanDesktop ? Command1 : Command2); };
+    Picture1.onGotFocus = [this, ofTheDesktop] {
+        setFocus(ofTheDesktop == Language::german ? Command1 : Command2);
+    };
     onActivate = [this] { setFocus(Picture1); };
     onAnswer = [this](BoxAnswer answer) {
-        choose(answer == BoxAnswer::english ? Choice::english : Choice::german);
+        choose(answer == BoxAnswer::english ? Language::english : Language::german);
     };
     onDismiss = [this] { visible = false; };
 }
 
 void Form3::addButton(Control& button, TextView controlName, TextView buttonCaption, int left,
-                      Choice choice) {
+                      Language choice) {
     add(button, controlName);
     button.place = {left, 1380, 1500, 540};
     button.caption = buttonCaption;
@@ -68,23 +70,24 @@ void Form3::keyDown(const Control& button, int code) {
 
 void Form3::keyPress(const Control& button, char16_t character) {
     if (character == u'\r' || character == u' ') button.onClick();
-    if (character == u'd' || character == u'D') choose(Choice::german);
-    if (character == u'e' || character == u'E') choose(Choice::english);
+    if (character == u'd' || character == u'D') choose(Language::german);
+    if (character == u'e' || character == u'E') choose(Language::english);
 }
 
-void Form3::choose(Choice choice) {
+void Form3::choose(Language choice) {
     choice_ = choice;
     visible = false;
 }
 
-Form1::Form1(bool english) : english_(english) {
+Form1::Form1(Language language) : language_(language) {
     name = u"Form1";
-    caption = english ? u"loading program....." : u"lade Programm.....";
+    caption = Words{u"lade Programm.....", u"loading program....."}.in(language);
     place = {0, 0, 6000, 2850};
     add(label, u"label");
     add(load, u"load");
     placeLabel(label, {300, 150, 5400, 300},
-               english ? u"    Loading Zifferon PRO 5.0..." : u"Zifferon PRO 5.0 wird geladen...", 12, true);
+               Words{u"Zifferon PRO 5.0 wird geladen...", u"    Loading Zifferon PRO 5.0..."}.in(language),
+               12, true);
     for (int i = 0; i < cellCount; ++i) {
         Control& cell = cells[static_cast<std::size_t>(i)];
         add(cell, u"cell");
@@ -114,19 +117,20 @@ Form1::Form1(bool english) : english_(english) {
 
 void Form1::fillCell(int index) {
     cells[static_cast<std::size_t>(index)].visible = true;
-    if (index == 0) addLine(u"Initialisiere Programm.....", u"Initializing program.....");
-    if (index == 10) addLine(u"Lade Programm-Dateien.....", u"Loading program files.....");
-    if (index == 16) addLine(u"Starte Programm.....", u"Starting program.....");
+    if (index == 0) addLine({u"Initialisiere Programm.....", u"Initializing program....."});
+    if (index == 10) addLine({u"Lade Programm-Dateien.....", u"Loading program files....."});
+    if (index == 16) addLine({u"Starte Programm.....", u"Starting program....."});
     if (index != cellCount - 1) return;
-    caption = english_ ? u"Zifferon PRO 5.0 has been initialized!" : u"Zifferon PRO 5.0 wurde initialisiert!";
+    caption = Words{u"Zifferon PRO 5.0 wurde initialisiert!", u"Zifferon PRO 5.0 has been initialized!"}.in(
+        language_);
 }
 
-void Form1::addLine(TextView german, TextView english) {
+void Form1::addLine(Words line) {
     if (!load.empty()) load.append(u"\r\n");
-    load.append(english_ ? english : german);
+    load.append(line.in(language_));
 }
 
-Form2::Form2(bool english) {
+Form2::Form2(Language language) {
     name = u"Form2";
     caption = programTitle;
     framed = false;
@@ -134,8 +138,10 @@ Form2::Form2(bool english) {
     add(Label1, u"Label1");
     add(Label2, u"Label2");
     placeLabel(Label1, {300, 300, 3600, 300},
-               english ? u"Zifferon PRO is closing down." : u"Zifferon PRO wird beendet.", 10.5, true);
-    placeLabel(Label2, {300, 720, 3600, 300}, english ? u"See you again!" : u"Auf Wiedersehen!", 10.5, false);
+               Words{u"Zifferon PRO wird beendet.", u"Zifferon PRO is closing down."}.in(language), 10.5,
+               true);
+    placeLabel(Label2, {300, 720, 3600, 300}, Words{u"Auf Wiedersehen!", u"See you again!"}.in(language),
+               10.5, false);
     Label1.alignment = Label2.alignment = Alignment::centre;
 }
 

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "platform/key.h"
+#include "platform/language.h"
 #include "platform/window.h"
 
 namespace zifferon {
@@ -14,10 +16,9 @@ namespace zifferon {
 class Form3 : public Window {
   public:
     // The focus begins at the language of the desktop.
-    explicit Form3(bool germanDesktop);
+    explicit Form3(Language ofTheDesktop);
 
-    enum class Choice { none, german, english };
-    Choice choice() const { return choice_; }
+    std::optional<Language> choice() const { return choice_; }
 
     Control heading{ControlKind::label}, line{ControlKind::label};
     Control Label1{ControlKind::label}, Label2{ControlKind::label};
@@ -25,18 +26,18 @@ class Form3 : public Window {
     TextField Picture1;  // hands the keyboard on to the first button
 
   private:
-    void addButton(Control& button, TextView controlName, TextView buttonCaption, int left, Choice choice);
+    void addButton(Control& button, TextView controlName, TextView buttonCaption, int left, Language choice);
     void keyDown(const Control& button, int code);
     void keyPress(const Control& button, char16_t character);
-    void choose(Choice choice);
+    void choose(Language choice);
 
-    Choice choice_ = Choice::none;
+    std::optional<Language> choice_;
 };
 
 // Nineteen progress cells, filled one after the other, and what is being done.
 class Form1 : public Window {
   public:
-    explicit Form1(bool english);
+    explicit Form1(Language language);
 
     static constexpr int cellCount = 19;
 
@@ -54,15 +55,15 @@ class Form1 : public Window {
     TextField load;
 
   private:
-    void addLine(TextView german, TextView english);
+    void addLine(Words line);
 
-    bool english_;
+    Language language_;
     std::vector<Key> typedAhead_;
 };
 
 class Form2 : public Window {
   public:
-    explicit Form2(bool english);
+    explicit Form2(Language language);
 
     Control Label1{ControlKind::label}, Label2{ControlKind::label};
 };

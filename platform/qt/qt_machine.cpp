@@ -63,16 +63,16 @@ BoxAnswer QtBoxes::show(const Box& box) {
         window.exec();
         return BoxAnswer::ok;
     }
-    const QString yesText = box.english ? QStringLiteral("&Yes") : QStringLiteral("&Ja");
-    const QString noText = box.english ? QStringLiteral("&No") : QStringLiteral("&Nein");
-    const QString cancelText = box.english ? QStringLiteral("Cancel") : QStringLiteral("Abbrechen");
+    const auto add = [&](Words caption) {
+        return window.addButton(toQString(caption.in(box.language)), QMessageBox::ActionRole);
+    };
     // One role for all: the buttons stand in this order on every desktop, and none of them is taken for a way
     // out. A question without Cancel has no way out but its buttons.
-    QPushButton* const yes = window.addButton(yesText, QMessageBox::ActionRole);
-    QPushButton* const no = window.addButton(noText, QMessageBox::ActionRole);
+    QPushButton* const yes = add({u"&Ja", u"&Yes"});
+    QPushButton* const no = add({u"&Nein", u"&No"});
     window.setDefaultButton(box.noIsDefault ? no : yes);
     if (box.buttons == BoxButtons::yesNoCancel) {
-        window.setEscapeButton(window.addButton(cancelText, QMessageBox::ActionRole));
+        window.setEscapeButton(add({u"Abbrechen", u"Cancel"}));
     } else {
         window.setWindowFlag(Qt::WindowCloseButtonHint, false);
     }

@@ -111,7 +111,7 @@ const std::unordered_map<std::string_view, Variable>& variables() {
         {"backColourScheme", [](const State& s) { return std::to_string(s.backColourScheme); }},
         {"focusDeferred", variable<&State::focusDeferred>},
         {"startSoundDone", variable<&State::startSoundDone>},
-        {"languageEnglish", variable<&State::languageEnglish>},
+        {"languageEnglish", [](const State& s) { return render(s.language == Language::english); }},
     };
     return table;
 }

@@ -238,7 +238,7 @@ void ScriptRunner::fresh(ScriptLine& line) {
     while (!line.atEnd()) {
         const std::string word = line.word();
         if (word == "english") {
-            s.languageEnglish = true;
+            s.language = Language::english;
         } else if (word == "point") {
             s.decimalPointStyle = 1;
         } else if (word == "unformatted") {
@@ -249,7 +249,7 @@ void ScriptRunner::fresh(ScriptLine& line) {
     }
     applyFormatMode(s);
     files_.replace("quicksave.zfr", "");
-    writeSingle(files_, settingsFile::language, s.languageEnglish ? 1.0F : 0.0F);
+    writeLanguage(files_, s.language);
     program_->beginFresh();
 }
 

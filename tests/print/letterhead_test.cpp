@@ -44,7 +44,7 @@ class LetterheadTest : public testing::Test {
         readLetterhead(files, into);
     }
     bool isRefused(const std::string& bytes) {
-        Kopf fresh;
+        Kopf fresh(language);
         try {
             read(bytes, fresh);
         } catch (const RecordFailure&) {
@@ -55,7 +55,8 @@ class LetterheadTest : public testing::Test {
 
     FreshFolder folder;
     PosixFiles files{folder.path()};
-    Kopf kopf;
+    Language language = Language::german;
+    Kopf kopf{language};
 };
 
 TEST_F(LetterheadTest, hasItsDefaultsFromAnAbsentFileWhichStaysBehindEmpty) {
@@ -102,7 +103,7 @@ TEST_F(LetterheadTest, putsTheNoteInABlankLineWhoseTickIsCheck7ForLineFive) {
     EXPECT_EQ(kopf.zeile4.text(), u"vier");
 
     kopf.visible = true;
-    kopf.english = true;
+    language = Language::english;
     kopf.Check7.setTicked(false);
     EXPECT_EQ(kopf.zeile5.text(), u"");
     EXPECT_TRUE(kopf.zeile5.enabled);

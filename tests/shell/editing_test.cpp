@@ -218,7 +218,7 @@ TEST_F(Editing, theMenuOffersWhatCanBeDone) {
     state().anzeige.menu()[2].onChoose();
     EXPECT_EQ(clipboard(), "2,00\n3,00 x\n\n6,00 =");
     headless_.setText(u"7 EUR");
-    state().languageEnglish = true;
+    state().language = Language::english;
     EXPECT_EQ(captions(state().eingabe.menu()), "Copy. Paste. Copy the whole tape. ");
     state().eingabe.menu()[1].onChoose();
     EXPECT_EQ(entry(), "7");

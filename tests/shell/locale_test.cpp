@@ -17,8 +17,10 @@ namespace zifferon {
 namespace {
 
 TEST(Locale, tellsGermanInWhateverCountry) {
-    for (const char* code : {"00000407", "00000c07", "00000807"}) EXPECT_TRUE(isGermanLocale(code)) << code;
-    for (const char* code : {"00000409", "0000040C", "", "407"}) EXPECT_FALSE(isGermanLocale(code)) << code;
+    for (const char* code : {"00000407", "00000c07", "00000807"})
+        EXPECT_EQ(languageOfLocale(code), Language::german) << code;
+    for (const char* code : {"00000409", "0000040C", "", "407"})
+        EXPECT_EQ(languageOfLocale(code), Language::english) << code;
 }
 
 TEST(Locale, tableSortsTheLocales) {
@@ -80,7 +82,7 @@ class SeparatorTest : public testing::Test {
 
 TEST_F(SeparatorTest, isAskedForOnceOnAnUnknownLocale) {
     OneBox asked(BoxAnswer::no);
-    settleSeparator(state, files, asked);
+    settleSeparator(state, files, Messages(asked, state.language));
     EXPECT_EQ(state.decimalPointStyle, 1);
     EXPECT_EQ(toHex(folder.bytes("decpoint.dat")), "00 00 00 40");
     EXPECT_EQ(asked.shown.title, u"Zifferon PRO 5.0 - Setup");
@@ -92,7 +94,7 @@ TEST_F(SeparatorTest, isAskedForOnceOnAnUnknownLocale) {
 
     state.decimalPointStyle = 0;
     OneBox notAsked(BoxAnswer::yes);
-    settleSeparator(state, files, notAsked);
+    settleSeparator(state, files, Messages(notAsked, state.language));
     EXPECT_EQ(state.decimalPointStyle, 1);
     EXPECT_EQ(notAsked.shown.text, u"");
 }
@@ -102,10 +104,10 @@ TEST_F(SeparatorTest, isAskedForDuringTheRunInTheStoredLanguage) {
     writeSingle(files, settingsFile::decimalSeparator, 2);
     state.decimalPointStyle = 1;
     OneBox asked(BoxAnswer::yes);
-    askSeparator(state, files, asked);
+    askSeparator(state, files, Messages(asked, state.language));
     EXPECT_EQ(state.decimalPointStyle, 0);
     EXPECT_EQ(toHex(folder.bytes("decpoint.dat")), "00 00 80 3F");
-    EXPECT_TRUE(asked.shown.english);
+    EXPECT_TRUE(asked.shown.language == Language::english);
     EXPECT_TRUE(
         asked.shown.text.starts_with(u"Please choose the kind of decimal separator which is used   \r\nin "
                                      u"your country.   \r\n\r\nIf the"));
@@ -116,7 +118,7 @@ TEST_F(SeparatorTest, holdsForTheRunWhenItCannotBeStored) {
     files.readOrCreate("language.dat");
     faulty.writable(false);
     OneBox asked(BoxAnswer::no);
-    EXPECT_THROW(askSeparator(state, faulty, asked), FileFailure);
+    EXPECT_THROW(askSeparator(state, faulty, Messages(asked, state.language)), FileFailure);
     EXPECT_EQ(state.decimalPointStyle, 1);
 }
 

@@ -31,24 +31,24 @@ constexpr std::array delivered = {"font.zfr",
 
 // What a hand without a mouse chooses in the window of the first run.
 TEST(LanguageWindow, isUsedByTheKeyboard) {
-    using Choice = Form3::Choice;
+    using enum Language;
     constexpr Key tab{keyCode::tab}, left{keyCode::left}, enter{keyCode::enter, 13};
-    const auto chosen = [](bool germanDesktop, const std::vector<Key>& typed) {
-        Form3 window(germanDesktop);
+    const auto chosen = [](Language ofTheDesktop, const std::vector<Key>& typed) {
+        Form3 window(ofTheDesktop);
         KeyRoad keys(window, [] {});
         window.visible = true;
         window.onActivate();
         for (const Key key : typed) keys.stroke(key);
         return window.choice();
     };
-    EXPECT_EQ(chosen(true, {enter}), Choice::german);
-    EXPECT_EQ(chosen(false, {keyOfCharacter(u' ')}), Choice::english);
-    EXPECT_EQ(chosen(true, {tab, enter}), Choice::english);
-    EXPECT_EQ(chosen(false, {left, keyOfCharacter(u' ')}), Choice::german);
-    EXPECT_EQ(chosen(true, {tab, left, enter}), Choice::german);
-    EXPECT_EQ(chosen(true, {keyOfCharacter(u'e')}), Choice::english);
-    EXPECT_EQ(chosen(false, {keyOfCharacter(u'D')}), Choice::german);
-    EXPECT_EQ(chosen(true, {keyOfCharacter(u'x'), tab}), Choice::none);
+    EXPECT_EQ(chosen(german, {enter}), german);
+    EXPECT_EQ(chosen(english, {keyOfCharacter(u' ')}), english);
+    EXPECT_EQ(chosen(german, {tab, enter}), english);
+    EXPECT_EQ(chosen(english, {left, keyOfCharacter(u' ')}), german);
+    EXPECT_EQ(chosen(german, {tab, left, enter}), german);
+    EXPECT_EQ(chosen(german, {keyOfCharacter(u'e')}), english);
+    EXPECT_EQ(chosen(english, {keyOfCharacter(u'D')}), german);
+    EXPECT_EQ(chosen(german, {keyOfCharacter(u'x'), tab}), std::nullopt);
 }
 
 class Start : public testing::Test {

@@ -46,7 +46,7 @@ TEST_F(BoxesTest, AnswersComeFromTheKeyboard) {
 }
 
 TEST_F(BoxesTest, TextIsPlainAndWhatWasDoneIsSeenBehindIt) {
-    const Box box{BoxIcon::none, BoxButtons::yesNo, u"Titel", u"<b>a</b>   ", true};
+    const Box box{BoxIcon::none, BoxButtons::yesNo, u"Titel", u"<b>a</b>   ", Language::english};
     answer(box, [this](QWidget& shown) {
         bool plain = false;
         for (const QLabel* label : shown.findChildren<QLabel*>()) {

@@ -177,7 +177,7 @@ TEST_F(WindowTest, LanguageChangesInTheHelpWindow) {
     const auto* const edit = view.findChild<QPushButton*>(QStringLiteral("edit"));
     EXPECT_EQ(edit->text(), QStringLiteral("&Druck/Edit"));
     pressWith(keys::alt, letterH);
-    ASSERT_TRUE(comesTrue([&] { return state().languageEnglish; }));
+    ASSERT_TRUE(comesTrue([&] { return state().language == Language::english; }));
     EXPECT_TRUE(comesTrue([&] { return view.isActiveWindow() && view.size() == size; }));
     EXPECT_EQ(edit->text(), QStringLiteral("Print / &Edit"));
     hands.stroke({keys::keypad5});

@@ -3,9 +3,9 @@
 #pragma once
 
 #include <array>
-#include <functional>
 
 #include "core/calc_value.h"
+#include "core/calls.h"
 #include "core/number_text.h"
 #include "platform/control.h"
 #include "platform/language.h"
@@ -14,26 +14,15 @@
 
 namespace zifferon {
 
-// What the rules ask of the rooms above. Wired in one place; none may be empty when a key arrives.
-struct Calls {
-    std::function<void()> takeUndoSnapshot;           // the snapshot point at the end of a key release
-    std::function<void()> writeSnapshotFile;          // under the number of undoCounter
-    std::function<void()> copyEntryToClipboard;       // only where clipcheck is ticked
-    std::function<void()> restorePendingOperator;     // puts txtop back after a prefix
-    std::function<void(char16_t)> memoryStoreStage;   // the key behind the prefix M
-    std::function<void(char16_t)> memoryRecallStage;  // the key behind the prefix R
-    std::function<void(TextView)> SendKeysEx;         // queues keystrokes behind the present one
-    std::function<void()> focusEntry;                 // gives eingabe the focus
-    std::function<void()> placeTexterror;             // by the height of the window
-    std::function<void()> openHelp;                   // the help file of the language in force
-    std::function<void()> beep;
-};
-
 struct CalculatorState {
     CalculatorState();
 
     // Fields. `zwischen` is the running value, `txtop` the state in one character, `anzeige` the visible
     // tape, `superdruck` its print copy in columns made with blanks; lines end in CR LF.
+    //
+    // txtop reads: "" nothing pending; + - x ÷ an operator, whose left operand stands in zwischen; "=" a
+    // result in eingabe and zwischen; "%" a percent prompt, or a percentage in the entry; "W" a root in the
+    // entry; "M" and "R" a prefix that waits for the digit of a cell.
     TextField eingabe{Alignment::right};
     TextField zwischen{Alignment::right};
     TextField txtop{Alignment::centre};
@@ -45,65 +34,70 @@ struct CalculatorState {
     CheckBox checkrnd;  // its caption is the rounding mode, its tick automatic rounding
     CheckBox Checkob, Checksound, clipcheck;
     Control rndleft{ControlKind::button}, rndright{ControlKind::button}, spezrnd{ControlKind::button};
-    Control zurück{ControlKind::button};
+    Control zurück{ControlKind::button};  // disabled: no Undo, by its key either
 
     Timer errortimer, messtimer;
 
     // The chain.
-    CalcValue operand, accumulator, pendingOpCode, chainActive;
-    bool chainTotalled = false;
-    bool tapeClearArmed = false;
+    CalcValue operand;        // the number of the entry as the last operation parsed it, then its result; a
+                              // double behind a root or a rounding, a text behind a total of the shown value
+    CalcValue accumulator;    // the left operand, parsed from zwischen by each key that computes
+    CalcValue pendingOpCode;  // 43 45 42 47 the operator; 37 while a percent prompt is open; 61, as a text or
+                              // a number, behind a total; 0 or "" none
+    CalcValue chainActive;    // 1 from the first operand in zwischen to the total, cancellation or failure
+    bool chainTotalled = false;   // from a total to its closing: its value stands on the tape already
+    bool tapeClearArmed = false;  // behind a closed or cancelled calculation: the next C wipes the tape; any
+                                  // other key ends it
 
     // Rounding and format.
-    double decimalPlaces = 2;
-    double operandLength = 0;
-    bool roundingDone = false;
-    bool roundingDoneSpecial = false, rootDone = false;
-    bool roundingBlock = false;
-    Text numberFormat, tapeFormat;
-    float formatMode = 1;
-    double decimalPointStyle = 0;  // 0: comma, 1: point
+    double decimalPlaces = 2;   // of the selector, taken at each key release
+    double operandLength = 0;   // of the operand's text, taken where the selector stands at R
+    bool roundingDone = false;  // a total has been rounded: once until Enter, W or Undo
+    bool roundingDoneSpecial = false, rootDone = false;  // the same for special rounding, which has two
+    bool roundingBlock = false;     // a refused rounding eats every press until the release
+    Text numberFormat, tapeFormat;  // patterns: entry, zwischen and steps; totals and first numbers
+    float formatMode = 1;           // 1 formatted, 2 unformatted; any other leaves the patterns
+    double decimalPointStyle = 0;   // 0: comma, 1: point
 
     // Percent, root and difference.
-    bool percentPrompt = false, percentRunning = false, percentDone = false;
-    CalcValue percentBase, percentRate, rootRepeat;
-    bool differenceStart = false, differenceActive = false, secondValuePrompt = false,
-         differenceShown = false;
-    CalcValue differenceValue1, differenceValue2, differenceOnePercent, differenceDelta, differencePercent;
-    CalcValue firstValueCheck;
+    bool percentPrompt = false;   // the rate is asked for
+    bool percentRunning = false;  // from the percent key to the result; the key down of C and Esc ends it too
+    bool percentDone = false;     // the result stands, until Enter, an operator, C, D or Esc
+    CalcValue percentBase, percentRate;  // texts, as formatted and as typed
+    CalcValue rootRepeat;                // 1 behind the root of a total: W at once takes the next one
+    bool differenceStart = false, differenceActive = false;  // from the first prompt to the result, C or Esc
+    bool secondValuePrompt = false;                          // the second of the two prompts stands
+    bool differenceShown = false;                  // the result stands in zwischen, until the next key
+    CalcValue differenceValue1, differenceValue2;  // texts, as typed
+    CalcValue differenceOnePercent, differenceDelta, differencePercent;  // doubles
+    CalcValue firstValueCheck;                                           // what Enter found in a prompt
 
-    // The key handlers.
-    bool enterHeld = false;
-    bool skipSnapshot = false;
-    bool multiplyPressed = false, dividePressed = false;
-    bool keyBlockedOnce = false, promptKeyBlocked = false, blockedKeyReleased = false;
-    bool idleClearLatch = false;
-    double keySound = 0;  // 0, 1 for Enter, 5 for undo
-    Colour eingabeForeColor;
-    bool suppressClipboard = true;  // until the first key that reaches the calculation
-    Text clipboardText;
-    bool tapeDirty = false;
-    float messageTicks = 0;
-    int undoCounter = 0;
+    // Latches of the key handlers: set by one of down, press and release for a later one.
+    bool enterHeld = false;        // press of Enter, or a refused rounding, to the release: repeats are eaten
+    bool skipSnapshot = false;     // the next release takes no snapshot, and clears it
+    bool multiplyPressed = false;  // press of * to its release, which takes the key for the keypad's
+    bool dividePressed = false;    // the same for /
+    bool keyBlockedOnce = false;   // the window of Undo lets its closing key pass by press and release
+    bool promptKeyBlocked = false;    // Alt came down in a value prompt: nothing until the next key down
+    bool blockedKeyReleased = false;  // Alt came down without a result, or special rounding has run; any
+                                      // change of the entry ends it
+    bool cellEnterTransfer = false;   // Enter has copied a cell: its release is not the entry's
+    bool idleClearLatch = false;      // C or Esc on an empty calculator: further ones are dropped
+    double keySound = 0;              // what the tape's next change sounds like: 0, 1 for Enter, 5 for Undo
+    Colour eingabeForeColor;          // given back by the release, behind a C that hides its own letter
+    bool suppressClipboard = true;    // until the first key that reaches the calculation
+    bool tapeDirty = false;           // the tape has changed since the start, a load or the window of Undo
+    float messageTicks = 0;           // of the message in Texterror, which stands for two
     Language language = Language::german;  // of all texts that are written from now on
 
     // Undo.
-    bool undoActive = false, undoStepPending = false, tapeEmptied = false;
-    bool specialSnapshotLatch = false, undoRepeatArmed = false;
+    int undoCounter = 0;                // number of the step that stands for the present state
+    bool undoActive = false;            // whether there are snapshots at all, found out at the start
+    bool undoStepPending = false;       // the tape became empty: the next snapshot point counts one step more
+    bool tapeEmptied = false;           // the tape is empty: no snapshot is written
+    bool specialSnapshotLatch = false;  // the next snapshot point writes nothing
 
-    // Memory cells and tax.
-    CalcValue taxDivisor, taxGross, taxNet, taxAmount;
-    bool cellEnterTransfer = false, memoryConfirmOff = false;
-
-    // Settings.
-    float separatorChoice = 0;  // 1 comma, 2 point, 0 not asked
-    bool localeUnknown = false;
-    int textColourScheme = 5, backColourScheme = 1;
-    bool focusDeferred = false;  // a box could not give the entry the focus before the window was shown
-    bool startSoundDone = false;
-    int windowMode = 0;
-
-    Calls calls;
+    Calls* calls = nullptr;  // none may be missing when a key arrives
 
     Separators separators() const { return decimalPointStyle == 1 ? pointStyle : commaStyle; }
     TextView inLanguage(Words words) const { return words.in(language); }

@@ -50,7 +50,7 @@ void KeyPress::differenceStage() {
     s.firstValueCheck = entry.text();
     const bool firstAsked = s.zwischen.contains(u"Wert 1") || s.zwischen.contains(u"1st value");
     if (firstAsked && s.firstValueCheck.equals(0, s.separators())) {
-        s.calls.beep();
+        s.calls->beep();
         return entry.setText(u"");
     }
     if (entry.empty()) return;

@@ -28,7 +28,7 @@ KeyPress::Flow KeyPress::head() {
     if (isEnter() && pendingIs(37)) s.eingabe.maxLength = 50;
     if (s.eingabe.empty() && isSpace()) return end;
     if (isW() && s.eingabe.contains(u"-") && !s.txtop.is(u"%") && !prompted) return enterErrorState(), end;
-    if (s.percentRunning && isSpace()) return s.calls.SendKeysEx(u"{BS}"), end;
+    if (s.percentRunning && isSpace()) return s.calls->SendKeysEx(u"{BS}"), end;
     if (isEnter() && pendingIs(37) && s.txtop.is(u"=") && s.eingabe.text() == s.zwischen.text()) {
         return percentDoneStage(), end;
     }
@@ -41,7 +41,7 @@ KeyPress::Flow KeyPress::head() {
     const bool roundable = s.txtop.is(u"=") || s.txtop.is(u"W") || s.txtop.is(u"%");
     if ((key == 18 || isSpace()) && !roundable) return end;
     if (s.promptKeyBlocked) return end;
-    if (promptStands(s) && isSpace()) return s.calls.SendKeysEx(u"{BS}"), end;
+    if (promptStands(s) && isSpace()) return s.calls->SendKeysEx(u"{BS}"), end;
     return goOn;
 }
 
@@ -112,9 +112,9 @@ KeyPress::Flow KeyPress::normaliseEntry() {
 }
 
 KeyPress::Flow KeyPress::firstDispatch() {
-    if (s.txtop.is(u"M") && s.percentDone) return s.calls.memoryStoreStage(key), eat(), end;
+    if (s.txtop.is(u"M") && s.percentDone) return s.calls->memoryStoreStage(key), eat(), end;
     if (s.percentDone) return percentDoneStage(), end;
-    if (s.txtop.is(u"R") && s.percentPrompt) return s.calls.memoryRecallStage(key), eat(), end;
+    if (s.txtop.is(u"R") && s.percentPrompt) return s.calls->memoryRecallStage(key), eat(), end;
     if (s.percentPrompt) return percentPromptStage(), end;
     return goOn;
 }
@@ -160,8 +160,8 @@ KeyPress::Flow KeyPress::clearBareEntry() {
 }
 
 KeyPress::Flow KeyPress::secondDispatch() {
-    if (s.txtop.is(u"M")) return s.calls.memoryStoreStage(key), eat(), end;
-    if (s.txtop.is(u"R")) return s.calls.memoryRecallStage(key), eat(), end;
+    if (s.txtop.is(u"M")) return s.calls->memoryStoreStage(key), eat(), end;
+    if (s.txtop.is(u"R")) return s.calls->memoryRecallStage(key), eat(), end;
     if (s.differenceStart) return differenceStage(), end;
     return s.txtop.is(u"=") ? afterTotal() : goOn;
 }

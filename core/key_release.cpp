@@ -22,7 +22,7 @@ class KeyRelease {
         normaliseOperatorCodes();
         Next next = afterIdleClear();
         if (next == Next::goOn) next = beforeSnapshot();
-        if (next == Next::snapshot) s.calls.takeUndoSnapshot();
+        if (next == Next::snapshot) s.calls->takeUndoSnapshot();
     }
 
   private:
@@ -40,7 +40,7 @@ class KeyRelease {
     void roundAutomatically() {
         const int decimals = countDecimalsOrNone(s.operand, s.separators());
         const auto digit = selectorDigit(s);
-        if (digit && decimals > *digit) s.calls.SendKeysEx(u" ");
+        if (digit && decimals > *digit) s.calls->SendKeysEx(u" ");
         if (!selectorAtSpecial(s)) return;
         const Text text = s.operand.toText(s.separators());
         s.operandLength = static_cast<double>(text.size());
@@ -63,7 +63,7 @@ class KeyRelease {
         }
         const bool prompted = promptWordStands(s);
         if (code == keyCode::w && s.eingabe.contains(u"-") && !prompted) {
-            s.calls.SendKeysEx(u"{BS}");
+            s.calls->SendKeysEx(u"{BS}");
             return true;
         }
         if (code == keyCode::right && alignAfterUndo(prompted)) return true;

@@ -22,7 +22,7 @@ void KeyPress::percentOfRunningValue() {
     setEntry(s.operand.toText(separators));
     eat();
     s.txtop.setText(u"%");
-    s.calls.copyEntryToClipboard();
+    s.calls->copyEntryToClipboard();
 }
 
 void KeyPress::startPercentPrompt() {

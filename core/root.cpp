@@ -26,7 +26,7 @@ void KeyPress::rootOfEntry() {
     setEntry(s.operand.toText(s.separators()));
     eat();
     s.txtop.setText(u"W");
-    s.calls.copyEntryToClipboard();
+    s.calls->copyEntryToClipboard();
 }
 
 void KeyPress::rootOfValue() {

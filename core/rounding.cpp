@@ -61,13 +61,13 @@ bool selectorAtSpecial(const CalculatorState& state) {
 }
 
 void stepSelectorLeft(CalculatorState& state) {
-    state.calls.focusEntry();
+    state.calls->focusEntry();
     const std::size_t index = selectorIndex(state);
     if (index > 0 && index < selectorCaptions.size()) state.checkrnd.caption = selectorCaptions[index - 1];
 }
 
 void stepSelectorRight(CalculatorState& state) {
-    state.calls.focusEntry();
+    state.calls->focusEntry();
     const std::size_t index = selectorIndex(state);
     if (index + 1 < selectorCaptions.size()) state.checkrnd.caption = selectorCaptions[index + 1];
 }
@@ -88,7 +88,7 @@ void showRoundingError(CalculatorState& s) {
 
 void errortimerTick(CalculatorState& s) {
     s.Texterror.setText(u"RND Error");
-    s.calls.placeTexterror();
+    s.calls->placeTexterror();
     if (!s.eingabe.empty()) s.Texterror.visible = true;
     s.messageTicks += 1;
     if (s.messageTicks < 2) return;
@@ -120,7 +120,7 @@ void KeyPress::roundKey() {
         eat();
         roundEntryIntoOperand(s);
         setEntry(format(s.operand, s.tapeFormat, separators));
-        return s.calls.copyEntryToClipboard();
+        return s.calls->copyEntryToClipboard();
     }
     if (!s.txtop.is(u"=")) return eat();
     if (s.roundingDone || s.roundingDoneSpecial) return eat();

@@ -21,10 +21,10 @@ class SpecialRounding {
         entryDecimals = countDecimalsOrNone(s.operand, s.separators());
         takeStep();
         s.specialSnapshotLatch = false;
-        if (s.percentRunning || !selectorAtSpecial(s) || s.promptKeyBlocked) return s.calls.focusEntry();
+        if (s.percentRunning || !selectorAtSpecial(s) || s.promptKeyBlocked) return s.calls->focusEntry();
         s.keySound = 0;
         if (s.blockedKeyReleased) {
-            s.calls.focusEntry();
+            s.calls->focusEntry();
             s.rootDone = false;
             s.specialSnapshotLatch = true;
             return;
@@ -32,7 +32,7 @@ class SpecialRounding {
         s.blockedKeyReleased = true;
         if (!s.txtop.is(u"=")) s.undoCounter -= 1;
         if (s.eingabe.text() == s.zwischen.text() && s.rootDone) s.skipSnapshot = true;
-        s.calls.focusEntry();
+        s.calls->focusEntry();
         if (s.txtop.is(u"%") || s.txtop.is(u"W")) return roundEntry();
         if (s.txtop.is(u"=")) roundTotal();
     }
@@ -44,7 +44,7 @@ class SpecialRounding {
         s.undoStepPending = false;
         if (s.tapeEmptied || s.specialSnapshotLatch || !s.undoActive) return;
         s.undoCounter += 1;
-        s.calls.writeSnapshotFile();
+        s.calls->writeSnapshotFile();
     }
 
     // An entry that is no number stays in the operand as its text.
@@ -60,7 +60,7 @@ class SpecialRounding {
         correct(takeLastTwoDigits());
         s.eingabe.setText(format(s.operand, s.tapeFormat, s.separators()));
         s.eingabe.caretToEnd();
-        s.calls.copyEntryToClipboard();
+        s.calls->copyEntryToClipboard();
     }
 
     void roundTotal() {

@@ -36,7 +36,7 @@ class CommandKeys {
         if (is(keyCode::del) && s.txtop.is(u"=")) return code = 0, end;
         if (s.undoCounter < 0) s.undoCounter = 0;
         if (is(keyCode::f2)) s.Texterror.visible = false;
-        s.calls.placeTexterror();
+        s.calls->placeTexterror();
         if (isSpace() && s.eingabe.empty() && s.checkrnd.caption == u"&RND R") return end;
         return s.roundingBlock ? end : goOn;
     }
@@ -58,8 +58,8 @@ class CommandKeys {
         const bool subtracts = s.txtop.is(u"-");
         if (!is(keyCode::t) || (!adds && !subtracts)) return goOn;
         if (s.memo[0].empty()) return showNoTaxRate(desk), end;
-        if (subtracts) takeTaxOut(s);
-        if (adds) s.calls.SendKeysEx(u"r1p{ENTER}");
+        if (subtracts) takeTaxOut(s, desk.memory);
+        if (adds) s.calls->SendKeysEx(u"r1p{ENTER}");
         return goOn;
     }
 
@@ -89,7 +89,7 @@ class CommandKeys {
         const bool isC = is(keyCode::c);
         if (!isC && !is(keyCode::escape)) s.idleClearLatch = false;
         if (s.idleClearLatch) return rubOutLater(), end;
-        s.undoRepeatArmed = is(keyCode::right);
+        desk.memory.undoRepeatArmed = is(keyCode::right);
         if (s.keyBlockedOnce) return end;
         if (isC && s.anzeige.empty() && s.eingabe.empty() && s.txtop.empty()) {
             s.skipSnapshot = true;
@@ -135,7 +135,7 @@ class CommandKeys {
     }
 
     Flow window() {
-        if (is(keyCode::up)) s.calls.SendKeysEx(u"{end}");
+        if (is(keyCode::up)) s.calls->SendKeysEx(u"{end}");
         const bool tapeShown = desk.window.place.width != 5735;
         if ((is(keyCode::pageUp) || is(keyCode::pageDown)) && s.anzeige.locked && tapeShown) {
             s.anzeige.locked = false;
@@ -148,7 +148,7 @@ class CommandKeys {
     }
 
     void colours() {
-        if (is(keyCode::f1)) s.calls.openHelp();
+        if (is(keyCode::f1)) s.calls->openHelp();
         if (is(keyCode::f6)) return desk.calls.nextTextColours();
         if (is(keyCode::f7)) return desk.calls.nextBackColours();
         if (is(keyCode::f2) && s.Checkob.visible) desk.calls.nextWindowMode();
@@ -159,7 +159,7 @@ class CommandKeys {
 
     bool is(int other) const { return code == other; }
     bool isSpace() const { return code == keyCode::space; }
-    void rubOutLater() { s.calls.SendKeysEx(u"{BS}"); }
+    void rubOutLater() { s.calls->SendKeysEx(u"{BS}"); }
 
     CommandDesk& desk;
     CalculatorState& s;

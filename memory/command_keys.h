@@ -3,31 +3,36 @@
 // release.
 #pragma once
 
-#include <functional>
-
 #include "core/calculator_state.h"
+#include "memory/memory_state.h"
 #include "platform/messages.h"
 #include "platform/window.h"
 
 namespace zifferon {
 
 // What the command keys start in the rooms above.
-struct CommandCalls {
-    std::function<void()> applyUndo;
-    std::function<void()> quit;       // after the question has been answered Yes
-    std::function<void()> printTape;  // after the question has been answered Yes
-    std::function<void()> nextWindowMode;
-    std::function<void()> nextTextColours, nextBackColours, standardColours;
-    std::function<bool()> writeFormatMode;  // stores formatMode; whether it is stored
-    std::function<void()> askSeparator;     // the question for comma or point, and what follows from it
-    std::function<bool(bool minimised)> writeStartOptions;  // whether they are stored
+class CommandCalls {
+  public:
+    virtual ~CommandCalls() = default;
+
+    virtual void applyUndo() = 0;
+    virtual void quit() = 0;       // after the question has been answered Yes
+    virtual void printTape() = 0;  // after the question has been answered Yes
+    virtual void nextWindowMode() = 0;
+    virtual void nextTextColours() = 0;
+    virtual void nextBackColours() = 0;
+    virtual void standardColours() = 0;
+    virtual bool writeFormatMode() = 0;  // stores formatMode; whether it is stored
+    virtual void askSeparator() = 0;     // the question for comma or point, and what follows from it
+    virtual bool writeStartOptions(bool minimised) = 0;  // whether they are stored
 };
 
 struct CommandDesk {
     CalculatorState& state;
+    MemoryState& memory;
     Window& window;
     const Messages& messages;
-    CommandCalls calls;
+    CommandCalls& calls;
 };
 
 // `code` is the virtual key code; a rule may set it to 0, which stops the field's own handling of the key.

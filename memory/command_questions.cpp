@@ -32,12 +32,13 @@ void askNumberFormat(CommandDesk& desk) {
 
 void switchStoreConfirmation(CommandDesk& desk) {
     CalculatorState& s = desk.state;
-    s.calls.beep();
-    s.memoryConfirmOff = !s.memoryConfirmOff;
-    desk.messages.tell(s.memoryConfirmOff ? Words{u"Speicherbestätigung für Zwischenspeicher deaktiviert. ",
-                                                  u"Saving confirmation for memory deactivated.   "}
-                                          : Words{u"Speicherbestätigung für Zwischenspeicher aktiviert.",
-                                                  u"Saving confirmation for memory activated.   "});
+    s.calls->beep();
+    desk.memory.memoryConfirmOff = !desk.memory.memoryConfirmOff;
+    desk.messages.tell(desk.memory.memoryConfirmOff
+                           ? Words{u"Speicherbestätigung für Zwischenspeicher deaktiviert. ",
+                                   u"Saving confirmation for memory deactivated.   "}
+                           : Words{u"Speicherbestätigung für Zwischenspeicher aktiviert.",
+                                   u"Saving confirmation for memory activated.   "});
     s.txtop.setText(u"");
 }
 

@@ -46,7 +46,7 @@ void MemoryPanel::wireCell(std::size_t index) {
 void MemoryPanel::memoryStoreStage(char16_t key) {
     if (isCellDigit(key)) {
         s.memo[indexOf(key)].setText(s.zwischen.text());
-        if (!s.memoryConfirmOff) confirmStore(indexOf(key));
+        if (!memory_.memoryConfirmOff) confirmStore(indexOf(key));
     }
     restorePendingOperator();
 }
@@ -58,7 +58,7 @@ void MemoryPanel::memoryRecallStage(char16_t key) {
         s.eingabe.setText(s.memo[indexOf(key)].text());
         s.eingabe.caretToEnd();
     }
-    copyEntryToClipboard();
+    s.calls->copyEntryToClipboard();
     s.eingabe.maxLength = 25;
     restorePendingOperator();
 }
@@ -75,13 +75,6 @@ void MemoryPanel::restorePendingOperator() {
     }
 }
 
-void MemoryPanel::copyEntryToClipboard() {
-    if (!s.clipcheck.ticked()) return;
-    machine_.clipboard.clear();
-    s.clipboardText = s.eingabe.text();
-    machine_.clipboard.setText(s.clipboardText);
-}
-
 void MemoryPanel::confirmStore(std::size_t index) {
     Text message(s.inLanguage({u"Wert in Speicherplatz M", u"The value has been stored in memory M"}));
     message += static_cast<char16_t>(u'1' + index);
@@ -94,7 +87,7 @@ void MemoryPanel::confirmStore(std::size_t index) {
 }
 
 void MemoryPanel::messtimerTick() {
-    s.calls.placeTexterror();
+    s.calls->placeTexterror();
     s.messageTicks += 1;
     if (s.messageTicks < 2) return;
     s.Texterror.visible = false;
@@ -108,14 +101,14 @@ void MemoryPanel::storeFirstFree(const Text& value, TextView germanWarning) {
         if (!s.memo[i].empty()) continue;
         s.memo[i].setText(value);
         s.eingabe.caretToEnd();
-        if (!s.memoryConfirmOff) confirmStore(i);
+        if (!memory_.memoryConfirmOff) confirmStore(i);
         return;
     }
     messages_.warn({germanWarning, u"Error while saving. No memory available!  "});
 }
 
 void MemoryPanel::entryDoubleClick() {
-    s.calls.placeTexterror();
+    s.calls->placeTexterror();
     if (s.eingabe.empty()) return;
     const auto value = tryParseDecimal(s.eingabe.text(), s.separators());
     if (!value) return;
@@ -124,7 +117,7 @@ void MemoryPanel::entryDoubleClick() {
 }
 
 void MemoryPanel::subtotalDoubleClick() {
-    s.calls.placeTexterror();
+    s.calls->placeTexterror();
     for (const TextView word : {u"Wert", u"value", u"Error", u"Diff"}) {
         if (s.zwischen.contains(word)) return;
     }
@@ -145,7 +138,7 @@ void MemoryPanel::cellDoubleClick(TextField& cell) {
     focusEntry();
     s.eingabe.caretToEnd();
     s.eingabe.maxLength = 25;
-    copyEntryToClipboard();
+    s.calls->copyEntryToClipboard();
 }
 
 void MemoryPanel::cellGotFocus(std::size_t index) {
@@ -161,9 +154,9 @@ void MemoryPanel::cellLostFocus(std::size_t index) {
 }
 
 void MemoryPanel::cellKeyDown(TextField& cell, int& code) {
-    if (code == keyCode::up) s.calls.SendKeysEx(u"{end}");
+    if (code == keyCode::up) s.calls->SendKeysEx(u"{end}");
     if (s.txtop.is(u"=") && code == keyCode::enter) return;
-    if (code == keyCode::f1) s.calls.openHelp();
+    if (code == keyCode::f1) s.calls->openHelp();
     cellHadText_ = !cell.empty();
     if (code == keyCode::space || code == keyCode::escape) return;
     if (code == keyCode::enter && !s.eingabe.locked && cell.locked) return cellTransfer(cell);
@@ -176,7 +169,7 @@ void MemoryPanel::cellTransfer(TextField& cell) {
     s.eingabe.caretToEnd();
     focusEntry();
     s.cellEnterTransfer = true;
-    copyEntryToClipboard();
+    s.calls->copyEntryToClipboard();
 }
 
 void MemoryPanel::cellEdit(TextField& cell, int& code) {
@@ -190,7 +183,7 @@ void MemoryPanel::cellEdit(TextField& cell, int& code) {
     const bool emptiesByBack = code == keyCode::back && !cell.empty();
     if ((code == keyCode::del || emptiesByBack) && wholeTextSelected(cell)) {
         s.undoCounter += 1;
-        s.calls.SendKeysEx(u"{enter}");
+        s.calls->SendKeysEx(u"{enter}");
     }
 }
 
@@ -226,7 +219,7 @@ void MemoryPanel::cellKeyUp(TextField& cell, int code) {
     if (!cellHadText_) return refuse(cell);
     cell.setText(u"");
     s.undoCounter += 1;
-    s.calls.SendKeysEx(u"{enter}");
+    s.calls->SendKeysEx(u"{enter}");
 }
 
 void MemoryPanel::cellChange(TextField& cell) {

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "core/calculator_state.h"
-#include "platform/machine.h"
+#include "memory/memory_state.h"
 #include "platform/messages.h"
 #include "platform/window.h"
 
@@ -13,9 +13,9 @@ namespace zifferon {
 class MemoryPanel {
   public:
     // `labels` are the labels M1 to M5 beside the cells.
-    MemoryPanel(CalculatorState& state, std::array<Control, 5>& labels, Window& window, Machine& machine,
-                const Messages& messages)
-        : s(state), labels_(labels), window_(window), machine_(machine), messages_(messages) {}
+    MemoryPanel(CalculatorState& state, const MemoryState& memory, std::array<Control, 5>& labels,
+                Window& window, const Messages& messages)
+        : s(state), memory_(memory), labels_(labels), window_(window), messages_(messages) {}
 
     // Hangs the handlers on the cells, their labels, and the double clicks of the entry and the subtotal
     // line.
@@ -26,7 +26,6 @@ class MemoryPanel {
     void memoryRecallStage(char16_t key);
 
     void restorePendingOperator();
-    void copyEntryToClipboard();
 
     void messtimerTick();
 
@@ -50,12 +49,12 @@ class MemoryPanel {
     void refuse(TextField& cell);
 
     bool isNumeric(TextView text) const;
-    void focusEntry() { s.calls.focusEntry(); }
+    void focusEntry() { s.calls->focusEntry(); }
 
     CalculatorState& s;
+    const MemoryState& memory_;
     std::array<Control, 5>& labels_;
     Window& window_;
-    Machine& machine_;
     const Messages& messages_;
     bool cellHadText_ = false;
 };

@@ -60,7 +60,7 @@ void MessageWindow::load() {
                                    u"              There is nothing to undo."});
     s.anzeige.setText(u"");
     s.tapeDirty = false;
-    s.calls.beep();
+    s.calls->beep();
 }
 
 void MessageWindow::activate() {
@@ -75,7 +75,7 @@ void MessageWindow::close() {
     visible = false;
     // Off and on, so that the main window takes its place above all others again.
     s.Checkob.setTicked(keptAlwaysOnTop_ == 1);
-    s.calls.focusEntry();
+    s.calls->focusEntry();
 }
 
 }  // namespace zifferon

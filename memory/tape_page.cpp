@@ -41,7 +41,7 @@ void TapePage::open() {
 
 void TapePage::leave() {
     stripes_.hide();
-    s.calls.focusEntry();
+    s.calls->focusEntry();
     const bool savedAlwaysOnTop = alwaysOnTop_.read();
     c.blendevorschau.visible = s.superdruck.visible = c.blende.visible = false;
     c.insertmode.visible = c.Frame7.visible = c.Check33.visible = false;
@@ -62,7 +62,7 @@ void TapePage::showDeskOptions(bool visible) {
 }
 
 void TapePage::superdruckKeyDown(int& code) {
-    if (code == keyCode::f1) s.calls.openHelp();
+    if (code == keyCode::f1) s.calls->openHelp();
     if (code == keyCode::space) leaveOverwritingAtStart();
     if (overwrites() && c.Check33.ticked()) insertNoticeGiven_ = false;
     resumeOverwriting();

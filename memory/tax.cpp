@@ -4,20 +4,20 @@
 
 namespace zifferon {
 
-void takeTaxOut(CalculatorState& s) {
+void takeTaxOut(CalculatorState& s, MemoryState& memory) {
     const Separators separators = s.separators();
     try {
-        s.taxDivisor = parseDecimal(s.memo[0].text(), separators) + Decimal(100);
-        s.taxGross = s.operand;
+        memory.taxDivisor = parseDecimal(s.memo[0].text(), separators) + Decimal(100);
+        memory.taxGross = s.operand;
         const Decimal gross = s.operand.toDecimal(separators);
-        const Decimal net = gross / s.taxDivisor.toDecimal(separators) * Decimal(100);
-        s.taxNet = net;
-        s.taxAmount = gross - net;
+        const Decimal net = gross / memory.taxDivisor.toDecimal(separators) * Decimal(100);
+        memory.taxNet = net;
+        memory.taxAmount = gross - net;
     } catch (const CalculationFailure&) {
         return;
     }
-    s.eingabe.setText(s.taxAmount.toText(separators));
-    s.calls.SendKeysEx(u"{ENTER}");
+    s.eingabe.setText(memory.taxAmount.toText(separators));
+    s.calls->SendKeysEx(u"{ENTER}");
 }
 
 }  // namespace zifferon

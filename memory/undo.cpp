@@ -4,12 +4,12 @@
 
 namespace zifferon {
 
-Undo::Undo(CalculatorState& state, CalculationRecord& record, Machine& machine, const Messages& messages,
-           std::function<void()> showNothingToUndo)
+Undo::Undo(CalculatorState& state, MemoryState& memory, CalculationRecord& record, Machine& machine,
+           const Messages& messages)
     : s(state),
+      memory_(memory),
       machine_(machine),
       messages_(messages),
-      showNothingToUndo_(std::move(showNothingToUndo)),
       record_(record),
       snapshots_(machine.files) {}
 
@@ -47,16 +47,16 @@ void Undo::applyUndo() {
     s.blockedKeyReleased = false;
     if (!s.txtop.is(u"=") && !s.eingabe.empty()) {
         s.eingabe.setText(u"");
-        return s.calls.focusEntry();
+        return s.calls->focusEntry();
     }
     if (!s.undoActive) {
         showInactive();
-        return s.calls.focusEntry();
+        return s.calls->focusEntry();
     }
     s.eingabe.enabled = true;
-    s.calls.focusEntry();
+    s.calls->focusEntry();
     s.percentDone = s.roundingDone = s.rootDone = s.roundingDoneSpecial = false;
-    if (s.eingabe.empty() && s.undoCounter == 0) showNothingToUndo_();
+    if (s.eingabe.empty() && s.undoCounter == 0) showNothingToUndo();
     if (s.undoCounter != 0) return stepBack();
     if (s.anzeige.empty()) {
         s.anzeige.setText(u"");
@@ -85,7 +85,7 @@ void Undo::stepBack() {
     applyCells(record_);
     applyFields(record_);
     applyVariables(record_);
-    s.calls.focusEntry();
+    s.calls->focusEntry();
     s.eingabe.locked = false;
     snapshots_.remove(s.undoCounter + 1);
 }
@@ -97,7 +97,7 @@ void Undo::showUnreadable() {
          u"Die Rechnung bleibt, wie sie ist.   ",
          u"The previous step could not be read.   \r\n"
          u"The calculation stays as it is.   "});
-    s.calls.focusEntry();
+    s.calls->focusEntry();
 }
 
 void Undo::showInactive() {
@@ -120,9 +120,16 @@ void Undo::anzeigeChanged() {
 
 // An Undo that lands on a number without a file goes on by itself.
 void Undo::zwischenChanged() {
-    if (!s.zwischen.empty() || !s.undoRepeatArmed) return;
-    s.calls.SendKeysEx(u"{right}");
-    s.undoRepeatArmed = false;
+    if (!s.zwischen.empty() || !memory_.undoRepeatArmed) return;
+    s.calls->SendKeysEx(u"{right}");
+    memory_.undoRepeatArmed = false;
+}
+
+void Undo::showNothingToUndo() {
+    message_.emplace(s, [this] { restoreCells(); });
+    message_->load();
+    machine_.windows.showModal(*message_);
+    message_.reset();
 }
 
 void Undo::restoreCells() {

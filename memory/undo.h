@@ -2,9 +2,11 @@
 // becomes a numbered snapshot; Undo reads the one below, and takes the newer one away.
 #pragma once
 
-#include <functional>
+#include <optional>
 
 #include "core/calculator_state.h"
+#include "memory/memory_state.h"
+#include "memory/message_window.h"
 #include "memory/snapshots.h"
 #include "platform/machine.h"
 #include "platform/messages.h"
@@ -15,9 +17,9 @@ namespace zifferon {
 class Undo {
   public:
     // `record` is the one record of the program: what its last reading told of the switches goes into a
-    // snapshot. `showNothingToUndo` shows the window that says so, and returns when it has been closed.
-    Undo(CalculatorState& state, CalculationRecord& record, Machine& machine, const Messages& messages,
-         std::function<void()> showNothingToUndo);
+    // snapshot.
+    Undo(CalculatorState& state, MemoryState& memory, CalculationRecord& record, Machine& machine,
+         const Messages& messages);
 
     // Removes all snapshots.
     void emptyFolder() { snapshots_.clear(); }
@@ -39,22 +41,26 @@ class Undo {
     void anzeigeChanged();
     void zwischenChanged();
 
+    // The window that says that there is nothing to undo, while it is open; else null.
+    Window* message() { return message_ ? &*message_ : nullptr; }
+
+  private:
     // The memory cells as they were at the start or the last load. A snapshot that cannot be read leaves
     // them.
     void restoreCells();
-
-  private:
+    void showNothingToUndo();
     void showInactive();
     void showUnreadable();
     void stepBack();
     void clearEntryAndSign();
 
     CalculatorState& s;
+    MemoryState& memory_;
     Machine& machine_;
     const Messages& messages_;
-    std::function<void()> showNothingToUndo_;
     CalculationRecord& record_;
     Snapshots snapshots_;
+    std::optional<MessageWindow> message_;
 };
 
 }  // namespace zifferon

@@ -56,13 +56,13 @@ Text EditCommands::copied() const {
 }
 
 void EditCommands::copy(TextView text) {
-    if (text.empty()) return s.calls.beep();
+    if (text.empty()) return s.calls->beep();
     machine_.clipboard.setText(text);
 }
 
 void EditCommands::cut() {
     const auto* const field = dynamic_cast<const TextField*>(pultform_.focus());
-    if (field == nullptr || field->selectionLength() == 0) return s.calls.beep();
+    if (field == nullptr || field->selectionLength() == 0) return s.calls->beep();
     copy(copied());
     keys_.stroke({keyCode::del});
 }

@@ -21,7 +21,7 @@ void HelpDesk::wire() {
     help_.Timer2.onTick = [this] { keepMainWindowBehind(); };
     help_.Command2.onClick = [this] { changeLanguage(Language::english); };
     help_.Command3.onClick = [this] { changeLanguage(Language::german); };
-    help_.Command5.onClick = [this] { s.calls.openHelp(); };
+    help_.Command5.onClick = [this] { s.calls->openHelp(); };
 }
 
 void HelpDesk::open() {
@@ -36,7 +36,7 @@ void HelpDesk::open() {
     s.Checkob.setTicked(savedAlwaysOnTop);
     window_.place = {help_.place.left, help_.place.top, before.width, before.height};
     machine_.windows.show(window_);
-    s.calls.focusEntry();
+    s.calls->focusEntry();
 }
 
 void HelpDesk::activated() {

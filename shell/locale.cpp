@@ -34,8 +34,8 @@ constexpr std::array<std::uint16_t, 102> pointLocales = {
 
 constexpr float commaChoice = 1, pointChoice = 2;  // in decpoint.dat
 
-void take(CalculatorState& state, float choice) {
-    state.separatorChoice = choice;
+void take(CalculatorState& state, SeparatorState& separator, float choice) {
+    separator.separatorChoice = choice;
     setDecimalPointStyle(state, choice == pointChoice ? 1 : 0);
 }
 
@@ -79,12 +79,13 @@ constexpr TextView englishQuestion =
     u"'DECPOINT.DAT', which is located in the Zifferon PRO folder.   ";
 
 // Asks, takes the answer, and stores it.
-void ask(CalculatorState& state, Files& files, const Messages& messages, Words opening) {
+void ask(CalculatorState& state, SeparatorState& separator, Files& files, const Messages& messages,
+         Words opening) {
     const Text german = Text(opening.german).append(germanQuestion);
     const Text english = Text(opening.english).append(englishQuestion);
     const bool comma = messages.titled(u"Zifferon PRO 5.0 - Setup").confirm({german, english});
     const float choice = comma ? commaChoice : pointChoice;
-    take(state, choice);
+    take(state, separator, choice);
     writeSingle(files, settingsFile::decimalSeparator, choice);
 }
 
@@ -110,15 +111,16 @@ Language languageOfLocale(std::string_view code) {
     return (numberOf(code) & languageBits) == german ? Language::german : Language::english;
 }
 
-void settleSeparator(CalculatorState& state, Files& files, const Messages& messages) {
+void settleSeparator(CalculatorState& state, SeparatorState& separator, Files& files,
+                     const Messages& messages) {
     const float choice = readSetting(files, settingsFile::decimalSeparator);
-    if (choice == commaChoice || choice == pointChoice) return take(state, choice);
-    ask(state, files, messages, {germanOpeningAtStart, englishOpeningAtStart});
+    if (choice == commaChoice || choice == pointChoice) return take(state, separator, choice);
+    ask(state, separator, files, messages, {germanOpeningAtStart, englishOpeningAtStart});
 }
 
-void askSeparator(CalculatorState& state, Files& files, const Messages& messages) {
+void askSeparator(CalculatorState& state, SeparatorState& separator, Files& files, const Messages& messages) {
     state.language = readLanguage(files);
-    ask(state, files, messages, {germanOpeningInRun, englishOpeningInRun});
+    ask(state, separator, files, messages, {germanOpeningInRun, englishOpeningInRun});
 }
 
 bool hasModernFrame(const System& system) {

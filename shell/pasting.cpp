@@ -26,10 +26,10 @@ void Pasting::paste(TextView text) {
     if (taken && cell != s.memo.end()) {
         taken = typeIntoCell(*cell, found);
     } else if (taken) {
-        s.calls.focusEntry();
+        s.calls->focusEntry();
         taken = typeIntoEntry(found.figures);
     }
-    if (!taken || found.leftOut) s.calls.beep();
+    if (!taken || found.leftOut) s.calls->beep();
 }
 
 // With one Enter for each line end, and a blank for a tab, which the print copy does not hold.
@@ -51,7 +51,7 @@ bool Pasting::typeIntoCell(TextField& cell, const PastedFigures& found) {
 bool Pasting::typeIntoEntry(const std::vector<PastedFigure>& figures) {
     // A prefix waits for a digit, and a root or percentage belongs to the entry that goes.
     const bool leaves = s.txtop.is(u"M") || s.txtop.is(u"R") || s.txtop.is(u"W") || s.txtop.is(u"%");
-    if (leaves) keys_.run(s.calls.restorePendingOperator);
+    if (leaves) keys_.run([this] { s.calls->restorePendingOperator(); });
     if (s.txtop.is(u"=")) type(u'\r');
     if (s.txtop.is(u"=")) return false;
     keys_.run([&] { s.eingabe.setText(u""); });
@@ -77,7 +77,7 @@ bool Pasting::typeChain(const std::vector<PastedFigure>& figures) {
         type(figures[i].operation != 0 ? figures[i].operation : u'+');
         if (!s.zwischen.is(u"Error") && typeFigure(s.eingabe, figures[i])) continue;
         s.undoActive = undoActive;
-        if (i < last) s.calls.takeUndoSnapshot();
+        if (i < last) s.calls->takeUndoSnapshot();
         return false;
     }
     return true;

@@ -57,14 +57,15 @@ constexpr TextView damagedLetterhead =
 
 }  // namespace
 
-StartUp::StartUp(CalculatorState& state, Kopf& kopf, CalculationRecord& record, WindowModes& modes,
-                 Machine& machine, const Messages& messages)
+StartUp::StartUp(CalculatorState& state, SeparatorState& separator, Kopf& kopf, CalculationRecord& record,
+                 WindowModes& modes, Machine& machine, const Messages& messages)
     : kopf_(kopf),
       record_(record),
       modes_(modes),
       machine_(machine),
       messages_(messages),
       s(state),
+      separator_(separator),
       form3_(languageOfLocale(machine.system.GetDecStyle())) {}
 
 void StartUp::run() {
@@ -113,7 +114,7 @@ void StartUp::openUndoSwitch() {
 void StartUp::readLocale() {
     const DecimalSeparator separator = separatorOfLocale(machine_.system.GetDecStyle());
     setDecimalPointStyle(s, separator == DecimalSeparator::point ? 1 : 0);
-    s.localeUnknown = separator == DecimalSeparator::unknown;
+    separator_.localeUnknown = separator == DecimalSeparator::unknown;
 }
 
 void StartUp::firstRun() {
@@ -137,9 +138,9 @@ void StartUp::firstRun() {
 }
 
 void StartUp::settleUnknownSeparator() {
-    if (!s.localeUnknown) return;
+    if (!separator_.localeUnknown) return;
     try {
-        settleSeparator(s, machine_.files, messages_);
+        settleSeparator(s, separator_, machine_.files, messages_);
     } catch (const FileFailure&) {
         tellUnsaved(messages_, settingsFile::decimalSeparator);
     }
@@ -157,20 +158,26 @@ void StartUp::readFrame() {
 
 void StartUp::showLoadingWindow() {
     Form1& form1 = form1_.emplace(s.language);
-    bool begun = false;
-    const auto focusLoad = form1.onActivate;
-    form1.onActivate = [&] {
+    form1.onActivate = [this, focusLoad = form1.onActivate] {
         focusLoad();
-        if (std::exchange(begun, true)) return;
-        machine_.process.pause(beforeCells);
-        for (int cell = 0; cell < Form1::cellCount; ++cell) {
-            form1.fillCell(cell);
-            machine_.process.pause(behindCell);
-        }
-        machine_.process.pause(behindCells);
-        form1.visible = false;
+        if (!std::exchange(loading_, true)) fillLoadingWindow();
     };
     machine_.windows.showBefore(form1);
+}
+
+void StartUp::fillLoadingWindow() {
+    machine_.process.pause(beforeCells);
+    for (int cell = 0; cell < Form1::cellCount; ++cell) {
+        form1_->fillCell(cell);
+        machine_.process.pause(behindCell);
+    }
+    machine_.process.pause(behindCells);
+    form1_->visible = false;
+}
+
+std::vector<Window*> StartUp::windows() {
+    if (form1_) return {&form3_, &*form1_};
+    return {&form3_};
 }
 
 void StartUp::restoreState() {

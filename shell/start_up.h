@@ -9,6 +9,7 @@
 #include "platform/machine.h"
 #include "platform/messages.h"
 #include "print/kopf.h"
+#include "shell/locale.h"
 #include "shell/start_windows.h"
 #include "shell/window_modes.h"
 #include "storage/calculation_record.h"
@@ -17,11 +18,14 @@ namespace zifferon {
 
 class StartUp {
   public:
-    StartUp(CalculatorState& state, Kopf& kopf, CalculationRecord& record, WindowModes& modes,
-            Machine& machine, const Messages& messages);
+    StartUp(CalculatorState& state, SeparatorState& separator, Kopf& kopf, CalculationRecord& record,
+            WindowModes& modes, Machine& machine, const Messages& messages);
 
     // All steps in their order. A condition that cannot be mended ends the process after its box.
     void run();
+
+    // The windows of the start that there are by now.
+    std::vector<Window*> windows();
 
     // What has been typed into the loading window, from its opening until the next one is in use.
     std::vector<Key> typedAhead() const { return form1_ ? form1_->typedAhead() : std::vector<Key>(); }
@@ -35,6 +39,7 @@ class StartUp {
     void settleUnknownSeparator();
     void readFrame();
     void showLoadingWindow();
+    void fillLoadingWindow();
     void restoreState();
     void applyRecord();
     void restoreLetterhead();
@@ -46,8 +51,10 @@ class StartUp {
     Machine& machine_;
     const Messages& messages_;
     CalculatorState& s;
+    SeparatorState& separator_;
     Form3 form3_;
     std::optional<Form1> form1_;
+    bool loading_ = false;  // the loading window has been in use
 };
 
 }  // namespace zifferon

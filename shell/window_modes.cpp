@@ -18,33 +18,33 @@ void moveTo(Control& control, int left, int top) {
 
 void WindowModes::step() {
     CalculatorState& s = window_.state;
-    switch (s.windowMode) {
+    switch (mode_) {
         case 0:
             layOutNarrow();
-            s.windowMode = 1;
+            mode_ = 1;
             break;
         case 1:
             layOutStrip();
-            s.windowMode = 2;
+            mode_ = 2;
             break;
         default:
             layOutFull();
-            s.windowMode = 0;
+            mode_ = 0;
     }
     if (s.anzeige.visible) s.anzeige.caretToEnd();
     s.eingabe.caretToEnd();
-    s.calls.focusEntry();
+    s.calls->focusEntry();
 }
 
 void WindowModes::restoreNarrow() {
     layOutNarrow();
-    window_.state.windowMode = 1;
+    mode_ = 1;
 }
 
 void WindowModes::restoreStrip() {
     layOutStrip();
     if (sizes_.active != 0) window_.place.height = sizes_.height - stripIsLowerBy;
-    window_.state.windowMode = 2;
+    mode_ = 2;
 }
 
 void WindowModes::layOutFull() {

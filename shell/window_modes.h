@@ -12,6 +12,9 @@ class WindowModes {
   public:
     WindowModes(Pultform& window, const System& system) : window_(window), system_(system) {}
 
+    // 0 the full desk, 1 the narrow one, 2 the strip.
+    int mode() const { return mode_; }
+
     // What the start has found out: whether the frames are of the newer kind, and sizes that take the place
     // of the layouts' own where they are active.
     void setFrame(bool modern, const StoredSizes& sizes) {
@@ -37,6 +40,7 @@ class WindowModes {
 
     Pultform& window_;
     const System& system_;
+    int mode_ = 0;
     bool modernFrame_ = false;
     StoredSizes sizes_;
 };

@@ -38,12 +38,19 @@ std::string render(Alignment alignment) {
     return "centre";
 }
 
-using Variable = std::string (*)(const State&);
+using Variable = std::string (*)(const Program&);
 
 template <auto member>
-std::string variable(const State& s) {
-    return render(s.*member);
+std::string variable(const Program& p) {
+    return render(p.pultform.state.*member);
 }
+
+template <auto member>
+std::string remembered(const Program& p) {
+    return render(p.memory.*member);
+}
+
+std::string render(int value) { return std::to_string(value); }
 
 const std::unordered_map<std::string_view, Variable>& variables() {
     static const std::unordered_map<std::string_view, Variable> table = {
@@ -79,10 +86,10 @@ const std::unordered_map<std::string_view, Variable>& variables() {
         {"differenceDelta", variable<&State::differenceDelta>},
         {"differencePercent", variable<&State::differencePercent>},
         {"firstValueCheck", variable<&State::firstValueCheck>},
-        {"taxDivisor", variable<&State::taxDivisor>},
-        {"taxGross", variable<&State::taxGross>},
-        {"taxNet", variable<&State::taxNet>},
-        {"taxAmount", variable<&State::taxAmount>},
+        {"taxDivisor", remembered<&MemoryState::taxDivisor>},
+        {"taxGross", remembered<&MemoryState::taxGross>},
+        {"taxNet", remembered<&MemoryState::taxNet>},
+        {"taxAmount", remembered<&MemoryState::taxAmount>},
         {"enterHeld", variable<&State::enterHeld>},
         {"skipSnapshot", variable<&State::skipSnapshot>},
         {"multiplyPressed", variable<&State::multiplyPressed>},
@@ -93,25 +100,26 @@ const std::unordered_map<std::string_view, Variable>& variables() {
         {"idleClearLatch", variable<&State::idleClearLatch>},
         {"keySound", variable<&State::keySound>},
         {"suppressClipboard", variable<&State::suppressClipboard>},
-        {"clipboardText", variable<&State::clipboardText>},
+        {"clipboardText", [](const Program& p) { return render(p.clipboard.text()); }},
         {"tapeDirty", variable<&State::tapeDirty>},
         {"messageTicks", variable<&State::messageTicks>},
-        {"undoCounter", [](const State& s) { return "int " + std::to_string(s.undoCounter); }},
+        {"undoCounter", [](const Program& p) { return "int " + render(p.pultform.state.undoCounter); }},
         {"undoActive", variable<&State::undoActive>},
         {"tapeEmptied", variable<&State::tapeEmptied>},
         {"undoStepPending", variable<&State::undoStepPending>},
         {"specialSnapshotLatch", variable<&State::specialSnapshotLatch>},
-        {"undoRepeatArmed", variable<&State::undoRepeatArmed>},
+        {"undoRepeatArmed", remembered<&MemoryState::undoRepeatArmed>},
         {"cellEnterTransfer", variable<&State::cellEnterTransfer>},
-        {"memoryConfirmOff", variable<&State::memoryConfirmOff>},
-        {"windowMode", [](const State& s) { return std::to_string(s.windowMode); }},
-        {"separatorChoice", variable<&State::separatorChoice>},
-        {"localeUnknown", variable<&State::localeUnknown>},
-        {"textColourScheme", [](const State& s) { return std::to_string(s.textColourScheme); }},
-        {"backColourScheme", [](const State& s) { return std::to_string(s.backColourScheme); }},
-        {"focusDeferred", variable<&State::focusDeferred>},
-        {"startSoundDone", variable<&State::startSoundDone>},
-        {"languageEnglish", [](const State& s) { return render(s.language == Language::english); }},
+        {"memoryConfirmOff", remembered<&MemoryState::memoryConfirmOff>},
+        {"windowMode", [](const Program& p) { return render(p.modes.mode()); }},
+        {"separatorChoice", [](const Program& p) { return render(p.separator.separatorChoice); }},
+        {"localeUnknown", [](const Program& p) { return render(p.separator.localeUnknown); }},
+        {"textColourScheme", [](const Program& p) { return render(p.colours.textScheme()); }},
+        {"backColourScheme", [](const Program& p) { return render(p.colours.backScheme()); }},
+        {"focusDeferred", [](const Program& p) { return render(p.options.focusDeferred()); }},
+        {"startSoundDone", [](const Program& p) { return render(p.sounds.startDone()); }},
+        {"languageEnglish",
+         [](const Program& p) { return render(p.pultform.state.language == Language::english); }},
     };
     return table;
 }
@@ -250,7 +258,7 @@ Control* controlOf(std::string_view name, Program& program) {
 
 std::optional<std::string> valueOf(std::string_view name, Program& program, const HeadlessMachine& machine) {
     const auto found = variables().find(name);
-    if (found != variables().end()) return found->second(program.pultform.state);
+    if (found != variables().end()) return found->second(program);
     if (name == "clipboard") return quoted(machine.text());
     if (name == "focus") {
         const Window* const modal = machine.modal().window;

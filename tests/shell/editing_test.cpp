@@ -199,7 +199,7 @@ TEST_F(Editing, copyTakesSelectionEntryOrRunningValue) {
     type(u"+");
     program_.pultform.onCopy();
     EXPECT_EQ(clipboard(), "3.468,50");
-    EXPECT_TRUE(state().clipboardText.empty());
+    EXPECT_TRUE(program_.clipboard.text().empty());
     type(u"d");
     beeps();
     program_.pultform.onCopy();

@@ -78,11 +78,12 @@ class SeparatorTest : public testing::Test {
     FreshFolder folder;
     PosixFiles files{folder.path()};
     CalculatorState state;
+    SeparatorState separator;
 };
 
 TEST_F(SeparatorTest, isAskedForOnceOnAnUnknownLocale) {
     OneBox asked(BoxAnswer::no);
-    settleSeparator(state, files, Messages(asked, state.language));
+    settleSeparator(state, separator, files, Messages(asked, state.language));
     EXPECT_EQ(state.decimalPointStyle, 1);
     EXPECT_EQ(toHex(folder.bytes("decpoint.dat")), "00 00 00 40");
     EXPECT_EQ(asked.shown.title, u"Zifferon PRO 5.0 - Setup");
@@ -94,7 +95,7 @@ TEST_F(SeparatorTest, isAskedForOnceOnAnUnknownLocale) {
 
     state.decimalPointStyle = 0;
     OneBox notAsked(BoxAnswer::yes);
-    settleSeparator(state, files, Messages(notAsked, state.language));
+    settleSeparator(state, separator, files, Messages(notAsked, state.language));
     EXPECT_EQ(state.decimalPointStyle, 1);
     EXPECT_EQ(notAsked.shown.text, u"");
 }
@@ -104,7 +105,7 @@ TEST_F(SeparatorTest, isAskedForDuringTheRunInTheStoredLanguage) {
     writeSingle(files, settingsFile::decimalSeparator, 2);
     state.decimalPointStyle = 1;
     OneBox asked(BoxAnswer::yes);
-    askSeparator(state, files, Messages(asked, state.language));
+    askSeparator(state, separator, files, Messages(asked, state.language));
     EXPECT_EQ(state.decimalPointStyle, 0);
     EXPECT_EQ(toHex(folder.bytes("decpoint.dat")), "00 00 80 3F");
     EXPECT_TRUE(asked.shown.language == Language::english);
@@ -118,7 +119,7 @@ TEST_F(SeparatorTest, holdsForTheRunWhenItCannotBeStored) {
     files.readOrCreate("language.dat");
     faulty.writable(false);
     OneBox asked(BoxAnswer::no);
-    EXPECT_THROW(askSeparator(state, faulty, Messages(asked, state.language)), FileFailure);
+    EXPECT_THROW(askSeparator(state, separator, faulty, Messages(asked, state.language)), FileFailure);
     EXPECT_EQ(state.decimalPointStyle, 1);
 }
 

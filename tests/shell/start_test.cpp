@@ -188,8 +188,8 @@ TEST_F(Start, takesOnlyWholeNumbersForColourSchemes) {
         headless_.beginAnew();
         Program program(machine_);
         program.keys.run([&] { program.start(); });
-        EXPECT_EQ(program.pultform.state.textColourScheme, scheme);
-        EXPECT_EQ(program.pultform.state.backColourScheme, scheme);
+        EXPECT_EQ(program.colours.textScheme(), scheme);
+        EXPECT_EQ(program.colours.backScheme(), scheme);
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "shell/settings_files.h"
+#include "storage/settings_files.h"
 
 namespace zifferon {
 

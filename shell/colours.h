@@ -4,7 +4,7 @@
 #include "help/help_window.h"
 #include "shell/colour_schemes.h"
 #include "shell/pultform.h"
-#include "shell/settings.h"
+#include "storage/settings.h"
 
 namespace zifferon {
 

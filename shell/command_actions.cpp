@@ -1,6 +1,6 @@
 #include "shell/command_actions.h"
 
-#include "shell/settings_files.h"
+#include "storage/settings_files.h"
 
 namespace zifferon {
 

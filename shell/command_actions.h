@@ -6,9 +6,9 @@
 #include "shell/colours.h"
 #include "shell/ending.h"
 #include "shell/locale.h"
-#include "shell/settings.h"
 #include "shell/sounds.h"
 #include "shell/window_modes.h"
+#include "storage/settings.h"
 
 namespace zifferon {
 

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "memory/command_questions.h"
-#include "shell/settings_files.h"
-#include "shell/write_protection.h"
+#include "storage/settings_files.h"
+#include "storage/write_protection.h"
 
 namespace zifferon {
 

@@ -6,10 +6,10 @@
 #include "print/kopf.h"
 #include "shell/colours.h"
 #include "shell/option_boxes.h"
-#include "shell/settings_files.h"
 #include "shell/start_up.h"
 #include "shell/tray.h"
 #include "shell/window_modes.h"
+#include "storage/settings_files.h"
 
 namespace zifferon {
 

@@ -1,7 +1,7 @@
 #include "shell/help_desk.h"
 
 #include "shell/language.h"
-#include "shell/settings_files.h"
+#include "storage/settings_files.h"
 
 namespace zifferon {
 
@@ -26,14 +26,14 @@ void HelpDesk::wire() {
 
 void HelpDesk::open() {
     const Place before = window_.place;
-    const bool savedAlwaysOnTop = s.Checkob.ticked();
+    window_.page.savedAlwaysOnTop = s.Checkob.ticked();
     s.Checkob.setTicked(false);
     help_.setCaptions(s.language);
     help_.place.left = before.left;
     help_.place.top = before.top;
     machine_.windows.showModal(help_);
     help_.Timer2.stop();
-    s.Checkob.setTicked(savedAlwaysOnTop);
+    s.Checkob.setTicked(window_.page.savedAlwaysOnTop);
     window_.place = {help_.place.left, help_.place.top, before.width, before.height};
     machine_.windows.show(window_);
     s.calls->focusEntry();

@@ -5,7 +5,7 @@
 #include "platform/machine.h"
 #include "print/kopf.h"
 #include "shell/pultform.h"
-#include "shell/settings.h"
+#include "storage/settings.h"
 
 namespace zifferon {
 

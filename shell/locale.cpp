@@ -5,7 +5,7 @@
 #include <charconv>
 #include <cstdint>
 
-#include "shell/settings_files.h"
+#include "storage/settings_files.h"
 
 namespace zifferon {
 

@@ -1,6 +1,5 @@
 #include "shell/program.h"
 
-#include "shell/always_on_top_file.h"
 #include "shell/language.h"
 
 namespace zifferon {
@@ -11,6 +10,7 @@ Program::Program(Machine& ofTheProgram)
       messages(machine.boxes, pultform.state.language),
       settings(machine.files, messages),
       record(pultform.state),
+      quickFile(pultform.state, record, machine.files, messages),
       clipboard(pultform.state, machine.clipboard),
       cells(pultform.state, memory, pultform.memoLabels, pultform, messages),
       undo(pultform.state, memory, record, machine, messages),
@@ -18,11 +18,11 @@ Program::Program(Machine& ofTheProgram)
       colours(pultform, help, settings),
       sounds(pultform, machine.sound),
       options(pultform, clipboard),
-      startUp(pultform.state, separator, kopf, record, modes, machine, messages),
+      startUp(pultform.state, separator, kopf, quickFile, modes, machine, messages),
       tray(pultform, machine),
       ending(pultform, undo, tray, machine, messages),
       firstActivation({pultform, kopf, keys, undo, modes, colours, options, startUp, tray, machine.files}),
-      page(pultform.state, pultform.page, pultform.stripes, pultform, messages, alwaysOnTopFile(settings)),
+      page(pultform.state, pultform.page, pultform.stripes, pultform, messages, settings),
       helpDesk(pultform, kopf, help, machine, messages, settings),
       actions({pultform, separator, undo, modes, colours, sounds, ending, settings, messages}),
       commands{pultform.state, memory, pultform, messages, actions},

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "help/help_window.h"
-#include "memory/tape_page.h"
+#include "page/tape_page.h"
 #include "shell/command_actions.h"
 #include "shell/desk.h"
 #include "shell/edit_commands.h"
@@ -39,6 +39,7 @@ class Program {
     SeparatorState separator;
     MemoryState memory;
     CalculationRecord record;
+    QuickFile quickFile;
     ResultClipboard clipboard;
     MemoryPanel cells;
     Undo undo;

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "core/calculator_state.h"
-#include "memory/stripes.h"
-#include "memory/tape_page.h"
+#include "page/stripes.h"
+#include "page/tape_page.h"
 #include "platform/window.h"
 
 namespace zifferon {

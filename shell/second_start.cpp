@@ -1,7 +1,7 @@
 #include "shell/second_start.h"
 
 #include "platform/messages.h"
-#include "shell/settings_files.h"
+#include "storage/settings_files.h"
 
 namespace zifferon {
 

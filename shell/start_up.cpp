@@ -5,8 +5,8 @@
 
 #include "print/letterhead.h"
 #include "shell/locale.h"
-#include "shell/settings_files.h"
-#include "shell/write_protection.h"
+#include "storage/settings_files.h"
+#include "storage/write_protection.h"
 
 namespace zifferon {
 
@@ -57,10 +57,10 @@ constexpr TextView damagedLetterhead =
 
 }  // namespace
 
-StartUp::StartUp(CalculatorState& state, SeparatorState& separator, Kopf& kopf, CalculationRecord& record,
+StartUp::StartUp(CalculatorState& state, SeparatorState& separator, Kopf& kopf, QuickFile& quickFile,
                  WindowModes& modes, Machine& machine, const Messages& messages)
     : kopf_(kopf),
-      record_(record),
+      quickFile_(quickFile),
       modes_(modes),
       machine_(machine),
       messages_(messages),
@@ -79,7 +79,7 @@ void StartUp::run() {
     settleUnknownSeparator();
     readFrame();
     showLoadingWindow();
-    restoreState();
+    quickFile_.restore();
     if (s.zwischen.empty()) s.zwischen.setText(u"0");
     restoreLetterhead();
 }
@@ -178,30 +178,6 @@ void StartUp::fillLoadingWindow() {
 std::vector<Window*> StartUp::windows() {
     if (form1_) return {&form3_, &*form1_};
     return {&form3_};
-}
-
-void StartUp::restoreState() {
-    try {
-        readRecord(machine_.files, "quicksave.zfr", record_);
-        return applyRecord();
-    } catch (const FileFailure&) {
-        // Told below.
-    } catch (const RecordFailure&) {
-        // Told below.
-    }
-    messages_.warn({u"quicksave.zfr: Die gespeicherte Rechnung konnte nicht gelesen werden.   ",
-                    u"quicksave.zfr: The stored calculation could not be read.   "});
-}
-
-void StartUp::applyRecord() {
-    applyCells(record_);
-    s.clipcheck.setTicked(record_.recordClipboard == 1);
-    applyFields(record_);
-    s.Checkob.setTicked(record_.recordAlwaysOnTop == 1);
-    s.Checksound.setTicked(record_.recordSound == 1);
-    s.checkrnd.setTicked(record_.recordRoundingTick == 1);
-    s.checkrnd.caption = record_.recordRoundingCaption.toText(s.separators());
-    applyVariables(record_);
 }
 
 void StartUp::restoreLetterhead() {

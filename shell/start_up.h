@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/calculator_state.h"
+#include "page/quick_file.h"
 #include "platform/key.h"
 #include "platform/machine.h"
 #include "platform/messages.h"
@@ -12,13 +13,12 @@
 #include "shell/locale.h"
 #include "shell/start_windows.h"
 #include "shell/window_modes.h"
-#include "storage/calculation_record.h"
 
 namespace zifferon {
 
 class StartUp {
   public:
-    StartUp(CalculatorState& state, SeparatorState& separator, Kopf& kopf, CalculationRecord& record,
+    StartUp(CalculatorState& state, SeparatorState& separator, Kopf& kopf, QuickFile& quickFile,
             WindowModes& modes, Machine& machine, const Messages& messages);
 
     // All steps in their order. A condition that cannot be mended ends the process after its box.
@@ -40,13 +40,11 @@ class StartUp {
     void readFrame();
     void showLoadingWindow();
     void fillLoadingWindow();
-    void restoreState();
-    void applyRecord();
     void restoreLetterhead();
     void stopDamagedLetterhead();
 
     Kopf& kopf_;
-    CalculationRecord& record_;
+    QuickFile& quickFile_;
     WindowModes& modes_;
     Machine& machine_;
     const Messages& messages_;

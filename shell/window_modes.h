@@ -4,7 +4,7 @@
 
 #include "platform/system.h"
 #include "shell/pultform.h"
-#include "shell/settings_files.h"
+#include "storage/settings_files.h"
 
 namespace zifferon {
 

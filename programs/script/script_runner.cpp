@@ -9,7 +9,7 @@
 #include "programs/script/decimal_command.h"
 #include "programs/script/script_keys.h"
 #include "programs/script/script_names.h"
-#include "shell/settings_files.h"
+#include "storage/settings_files.h"
 
 namespace zifferon {
 

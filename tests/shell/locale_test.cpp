@@ -10,7 +10,7 @@
 #include "platform/headless/headless_system.h"
 #include "platform/posix_files.h"
 #include "platform/posix_system.h"
-#include "shell/settings_files.h"
+#include "storage/settings_files.h"
 #include "tests/support/fresh_folder.h"
 
 namespace zifferon {

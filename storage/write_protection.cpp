@@ -1,4 +1,4 @@
-#include "shell/write_protection.h"
+#include "storage/write_protection.h"
 
 namespace zifferon {
 

@@ -1,7 +1,7 @@
-#include "shell/settings.h"
+#include "storage/settings.h"
 
-#include "shell/settings_files.h"
-#include "shell/write_protection.h"
+#include "storage/settings_files.h"
+#include "storage/write_protection.h"
 
 namespace zifferon {
 

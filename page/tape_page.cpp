@@ -1,19 +1,15 @@
-#include "memory/tape_page.h"
+#include "page/tape_page.h"
 
 #include <utility>
 
 #include "platform/key.h"
+#include "storage/settings_files.h"
 
 namespace zifferon {
 
 TapePage::TapePage(CalculatorState& state, TapePageControls& controls, Stripes& stripes, Window& window,
-                   const Messages& messages, AlwaysOnTopFile alwaysOnTop)
-    : s(state),
-      c(controls),
-      stripes_(stripes),
-      window_(window),
-      messages_(messages),
-      alwaysOnTop_(std::move(alwaysOnTop)) {}
+                   const Messages& messages, const Settings& settings)
+    : s(state), c(controls), stripes_(stripes), window_(window), messages_(messages), settings_(settings) {}
 
 void TapePage::wire() {
     c.edit.onClick = [this] { open(); };
@@ -27,7 +23,7 @@ void TapePage::wire() {
 }
 
 void TapePage::open() {
-    alwaysOnTop_.write(s.Checkob.ticked());
+    keepAlwaysOnTop();
     c.insertmode.visible = s.superdruck.visible = c.blende.visible = true;
     showDeskOptions(false);
     c.Check33.visible = true;
@@ -42,12 +38,24 @@ void TapePage::open() {
 void TapePage::leave() {
     stripes_.hide();
     s.calls->focusEntry();
-    const bool savedAlwaysOnTop = alwaysOnTop_.read();
+    c.savedAlwaysOnTop = wasAlwaysOnTop();
     c.blendevorschau.visible = s.superdruck.visible = c.blende.visible = false;
     c.insertmode.visible = c.Frame7.visible = c.Check33.visible = false;
     showDeskOptions(true);
     s.zurück.visible = true;
-    if (savedAlwaysOnTop) s.Checkob.setTicked(true);
+    if (c.savedAlwaysOnTop) s.Checkob.setTicked(true);
+}
+
+void TapePage::keepAlwaysOnTop() {
+    settings_.storing("visible.zfr", [this] { writeAlwaysOnTop(settings_.files(), s.Checkob.ticked()); });
+}
+
+bool TapePage::wasAlwaysOnTop() const {
+    try {
+        return readAlwaysOnTop(settings_.files());
+    } catch (const FileFailure&) {
+        return false;
+    }
 }
 
 void TapePage::setCaptions() {

@@ -1,4 +1,4 @@
-#include "shell/settings_files.h"
+#include "storage/settings_files.h"
 
 #include <algorithm>
 #include <cmath>

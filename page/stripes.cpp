@@ -1,4 +1,4 @@
-#include "memory/stripes.h"
+#include "page/stripes.h"
 
 namespace zifferon {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/posix_files.h"
-#include "shell/settings_files.h"
+#include "storage/settings_files.h"
 #include "tests/support/fresh_folder.h"
 
 namespace zifferon {

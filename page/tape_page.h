@@ -2,12 +2,11 @@
 // or by overwriting. The visible tape and the calculation stay as they are.
 #pragma once
 
-#include <functional>
-
 #include "core/calculator_state.h"
-#include "memory/stripes.h"
+#include "page/stripes.h"
 #include "platform/messages.h"
 #include "platform/window.h"
+#include "storage/settings.h"
 
 namespace zifferon {
 
@@ -20,19 +19,15 @@ struct TapePageControls {
     CheckBox Check33;                      // ticked: the user wants to overwrite
     Control Frame7{ControlKind::picture};  // the foot of the page
     Control leave{ControlKind::button};
-};
 
-// Whether the window stood always on top when the page opened, kept in a file. Neither fails: what cannot be
-// written is told to the user, what cannot be read was not on top.
-struct AlwaysOnTopFile {
-    std::function<void(bool alwaysOnTop)> write;
-    std::function<bool()> read;
+    // Whether always on top was ticked when the page or the help window took it away.
+    bool savedAlwaysOnTop = false;
 };
 
 class TapePage {
   public:
     TapePage(CalculatorState& state, TapePageControls& controls, Stripes& stripes, Window& window,
-             const Messages& messages, AlwaysOnTopFile alwaysOnTop);
+             const Messages& messages, const Settings& settings);
 
     // Hangs the handlers on the controls and on the print copy.
     void wire();
@@ -44,6 +39,9 @@ class TapePage {
     void leave();
 
   private:
+    // In a file: what cannot be written is told to the user, what cannot be read was not on top.
+    void keepAlwaysOnTop();
+    bool wasAlwaysOnTop() const;
     void setCaptions();
     void showDeskOptions(bool visible);
     void superdruckKeyDown(int& code);
@@ -62,7 +60,7 @@ class TapePage {
     Stripes& stripes_;
     Window& window_;
     const Messages& messages_;
-    AlwaysOnTopFile alwaysOnTop_;
+    const Settings& settings_;
     bool overwriteSuspended_ = false;  // a Backspace has made way for itself; the next key overwrites again
     bool insertNoticeGiven_ = false;   // an Enter has ended overwriting, and said so
 };

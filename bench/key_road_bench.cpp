@@ -17,9 +17,7 @@ using namespace zifferon;
 class Bench {
   public:
     explicit Bench(std::int64_t lines)
-        : headless_(log_),
-          machine_{headless_, headless_, headless_, files_, headless_, headless_, system_, headless_},
-          program_(machine_) {
+        : headless_(log_), machine_(headless_.with(files_, system_)), program_(machine_) {
         program_.beginFresh();
         state().undoActive = false;
         Text tape, print;

@@ -22,9 +22,7 @@ int main(int argc, char** argv) {
     FirstWindow first(argv[1], QStringLiteral("Zifferon PRO 5.0"));
     QtMachine qt;
     HastyProcess process;
-    const Machine& all = qt.machine;
-    Machine machine{all.boxes,   all.clipboard, all.sound,  all.files,
-                    all.windows, process,       all.system, all.desktop};
+    Machine machine = qt.machine.with(process);
     Program program(machine);
     FormView view(program.pultform, program.keys);
     qt.desktop.attachTo(view);

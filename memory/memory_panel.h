@@ -29,6 +29,9 @@ class MemoryPanel {
 
     void messtimerTick();
 
+    // Whether the cell in use held a text when the last key went down.
+    bool cellHadText() const { return cellHadText_; }
+
   private:
     void wireCell(std::size_t index);
     void confirmStore(std::size_t index);

@@ -38,6 +38,9 @@ class TapePage {
     // Takes the page away; the entry gets the focus, and always on top comes back if it was on.
     void leave();
 
+    bool overwriteSuspended() const { return overwriteSuspended_; }
+    bool insertNoticeGiven() const { return insertNoticeGiven_; }
+
   private:
     // In a file: what cannot be written is told to the user, what cannot be read was not on top.
     void keepAlwaysOnTop();

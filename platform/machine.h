@@ -70,6 +70,11 @@ struct Machine {
     Process& process;
     System& system;
     Desktop& desktop;
+
+    // The same machine but for its process.
+    Machine with(Process& another) const {
+        return {boxes, clipboard, sound, files, windows, another, system, desktop};
+    }
 };
 
 }  // namespace zifferon

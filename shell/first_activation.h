@@ -32,6 +32,10 @@ class FirstActivation {
 
     void wire();
 
+    // Of a calculator that stands without a start: what comes the first time only is done.
+    void skip() { done_ = true; }
+    bool done() const { return done_; }
+
   private:
     void activated();
     void begin();

@@ -42,16 +42,24 @@ Program::Program(Machine& ofTheProgram)
 void Program::start() {
     startUp.run();
     machine.desktop.registerHotKey();
+    wireDesktop();
+    machine.windows.show(pultform);
+}
+
+void Program::wireDesktop() {
     tray.wire();
     ending.wire();
     firstActivation.wire();
-    machine.windows.show(pultform);
 }
 
 void Program::beginFresh() {
     CalculatorState& s = pultform.state;
     if (s.language == Language::english) setEnglishCaptions(pultform, kopf);
     sounds.skipStart();
+    startUp.readFrame();
+    modes.layOutFull();
+    firstActivation.skip();
+    wireDesktop();
     s.undoActive = true;
     pultform.visible = true;
     pultform.setFocus(s.eingabe);

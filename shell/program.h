@@ -58,6 +58,9 @@ class Program {
     Desk desk;
     EditCommands editing;
     RuleCalls ruleCalls;
+
+  private:
+    void wireDesktop();
 };
 
 }  // namespace zifferon

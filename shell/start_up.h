@@ -24,6 +24,9 @@ class StartUp {
     // All steps in their order. A condition that cannot be mended ends the process after its box.
     void run();
 
+    // The frame of the window, as the machine and the stored sizes tell.
+    void readFrame();
+
     // The windows of the start that there are by now.
     std::vector<Window*> windows();
 
@@ -37,7 +40,6 @@ class StartUp {
     void readLocale();
     void firstRun();
     void settleUnknownSeparator();
-    void readFrame();
     void showLoadingWindow();
     void fillLoadingWindow();
     void restoreLetterhead();

@@ -22,6 +22,11 @@ class WindowModes {
         sizes_ = sizes;
     }
 
+    bool modernFrame() const { return modernFrame_; }
+
+    // The full desk for the frame that has been set.
+    void layOutFull();
+
     // From the full desk to the narrow one, to the strip, and back. The caret goes to the end of the tape,
     // where it is seen, and of the entry, which ends up with the focus.
     void step();
@@ -31,7 +36,6 @@ class WindowModes {
     void restoreStrip();
 
   private:
-    void layOutFull();
     void layOutNarrow();
     void layOutStrip();
     void showSidePanel(bool visible);

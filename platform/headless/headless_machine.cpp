@@ -84,6 +84,7 @@ std::string quoted(TextView text) {
 void HeadlessMachine::beginAnew() {
     due_.clear();
     shown_.clear();
+    mainWindow_ = nullptr;
     trayIcon_ = false;
     events_.clear();
     onHotKey = onTrayDoubleClick = onTrayShow = onTrayExit = onSessionEnd = nullptr;
@@ -148,6 +149,8 @@ void HeadlessMachine::showModal(Window& window) {
     }
     std::erase(shown_, &window);
     tellOf(window, "hidden");
+    Window* const below = modals_.empty() ? mainWindow_ : modals_.back().window;
+    if (below != nullptr && below->visible && below->onActivate) below->onActivate();
 }
 
 void HeadlessMachine::show(Window& window) {

@@ -28,6 +28,18 @@ class HeadlessMachine : public Boxes,
   public:
     explicit HeadlessMachine(std::ostream& log) : log_(log) {}
 
+    // The machine that this makes together with files and a system, which must outlive it.
+    Machine with(Files& files, System& system) {
+        return {.boxes = *this,
+                .clipboard = *this,
+                .sound = *this,
+                .files = files,
+                .windows = *this,
+                .process = *this,
+                .system = system,
+                .desktop = *this};
+    }
+
     // One of yes, no, ok, cancel, or a language; the next box without an answer of its own takes it.
     void queueAnswer(BoxAnswer answer) { answers_.push_back(answer); }
 
@@ -43,6 +55,9 @@ class HeadlessMachine : public Boxes,
     // Lets virtual time pass; the timers of the main window and of modal ones tick in order, each through the
     // key road of its window.
     void wait(std::int64_t milliseconds, Window& window, KeyRoad& keys);
+
+    // The window that is in use where no modal one is open: when the last of those closes, it is told.
+    void setMainWindow(Window* window) { mainWindow_ = window; }
 
     // A modal window that no answer closes stays open until this returns; it returns when the window is no
     // longer visible.
@@ -97,6 +112,7 @@ class HeadlessMachine : public Boxes,
     bool trayIcon_ = false;
     std::int64_t now_ = 0;  // milliseconds
     std::unordered_map<const Timer*, Due> due_;
+    Window* mainWindow_ = nullptr;
     std::vector<Window*> shown_;
     std::vector<InUse> modals_;  // each above those before it
 };

@@ -3,7 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <memory>
 #include <unordered_map>
+
+#include "memory/message_window.h"
+#include "storage/settings_files.h"
 
 namespace zifferon {
 
@@ -51,6 +55,11 @@ std::string remembered(const Program& p) {
 }
 
 std::string render(int value) { return std::to_string(value); }
+
+// As one number, red in its lowest byte.
+std::string render(Colour colour) {
+    return std::to_string(colour.red + 256 * colour.green + 65536 * colour.blue);
+}
 
 const std::unordered_map<std::string_view, Variable>& variables() {
     static const std::unordered_map<std::string_view, Variable> table = {
@@ -120,6 +129,20 @@ const std::unordered_map<std::string_view, Variable>& variables() {
         {"startSoundDone", [](const Program& p) { return render(p.sounds.startDone()); }},
         {"languageEnglish",
          [](const Program& p) { return render(p.pultform.state.language == Language::english); }},
+        {"eingabeForeColor", [](const Program& p) { return render(p.pultform.state.eingabeForeColor); }},
+        {"cellHadText", [](const Program& p) { return render(p.cells.cellHadText()); }},
+        {"firstRunDone",
+         [](const Program& p) { return render(readSetting(p.machine.files, settingsFile::firstRunDone)); }},
+        {"firstActivateDone", [](const Program& p) { return render(p.firstActivation.done()); }},
+        {"modernFrame", [](const Program& p) { return render(p.modes.modernFrame()); }},
+        {"inTray", [](const Program& p) { return render(p.tray.inTray()); }},
+        {"trayRestoreLeft", [](const Program& p) { return render(p.tray.restorePlace().left); }},
+        {"trayRestoreTop", [](const Program& p) { return render(p.tray.restorePlace().top); }},
+        {"layoutCyclePending", [](const Program& p) { return render(p.tray.layoutCyclePending()); }},
+        {"stripesOff", [](const Program& p) { return render(p.pultform.stripes.stripesOff()); }},
+        {"savedAlwaysOnTop", [](const Program& p) { return render(int{p.pultform.page.savedAlwaysOnTop}); }},
+        {"overwriteSuspended", [](const Program& p) { return render(p.page.overwriteSuspended()); }},
+        {"insertNoticeGiven", [](const Program& p) { return render(p.page.insertNoticeGiven()); }},
     };
     return table;
 }
@@ -248,12 +271,35 @@ Window* windowOf(const Control& control, Program& program) {
     return nullptr;
 }
 
+namespace {
+
+Control* controlIn(Window& window, std::string_view name) { return window.find(fromUtf8(name)); }
+
+// A window that is not loaded answers as it was designed.
+std::unique_ptr<Window> designedWindow(std::string_view name, Program& program) {
+    CalculatorState& state = program.pultform.state;
+    if (name == "Form1") return std::make_unique<Form1>(state.language);
+    if (name == "Form2") return std::make_unique<Form2>(state.language);
+    if (name == "message") return std::make_unique<MessageWindow>(state, [] {});
+    return nullptr;
+}
+
+std::optional<std::string> valueIn(Window& window, std::string_view name) {
+    if (const Control* const control = controlIn(window, name)) return mainValueOf(*control);
+    const std::size_t point = name.rfind('.');
+    if (point == std::string_view::npos) return std::nullopt;
+    const Control* const control = controlIn(window, name.substr(0, point));
+    return control != nullptr ? propertyOf(*control, name.substr(point + 1)) : std::nullopt;
+}
+
+}  // namespace
+
 Control* controlOf(std::string_view name, Program& program) {
-    if (Control* const control = program.pultform.find(fromUtf8(name))) return control;
+    if (Control* const control = controlIn(program.pultform, name)) return control;
     const std::size_t point = name.find('.');
     if (point == std::string_view::npos) return nullptr;
-    const Window* const window = windowCalled(name.substr(0, point), program);
-    return window != nullptr ? window->find(fromUtf8(name.substr(point + 1))) : nullptr;
+    Window* const window = windowCalled(name.substr(0, point), program);
+    return window != nullptr ? controlIn(*window, name.substr(point + 1)) : nullptr;
 }
 
 std::optional<std::string> valueOf(std::string_view name, Program& program, const HeadlessMachine& machine) {
@@ -265,14 +311,17 @@ std::optional<std::string> valueOf(std::string_view name, Program& program, cons
         const Control* focus = (modal != nullptr ? *modal : program.pultform).focus();
         return focus != nullptr ? toUtf8(focus->name) : "";
     }
-    if (const Control* control = controlOf(name, program)) return mainValueOf(*control);
-    const std::size_t point = name.rfind('.');
+    if (const auto value = valueIn(program.pultform, name)) return value;
+    const std::size_t point = name.find('.');
     if (point == std::string_view::npos) return std::nullopt;
-    const std::string_view owner = name.substr(0, point);
-    const std::string_view property = name.substr(point + 1);
-    if (const Control* control = controlOf(owner, program)) return propertyOf(*control, property);
-    if (const Window* window = windowCalled(owner, program)) return propertyOf(*window, property);
-    return std::nullopt;
+    const std::string_view windowName = name.substr(0, point);
+    const std::string_view part = name.substr(point + 1);
+    const auto designed = designedWindow(windowName, program);
+    Window* const loaded = windowCalled(windowName, program);
+    Window* const window = loaded != nullptr ? loaded : designed.get();
+    if (window == nullptr) return std::nullopt;
+    const auto value = valueIn(*window, part);
+    return value ? value : propertyOf(*window, part);
 }
 
 }  // namespace zifferon

@@ -24,9 +24,7 @@ class BeginsAnew {};
 }  // namespace
 
 ScriptRunner::ScriptRunner(std::ostream& out, std::ostream& errors)
-    : out_(out), errors_(errors), headless_(out), files_(disk_), machine_{headless_, headless_, headless_,
-                                                                          files_,    headless_, headless_,
-                                                                          system_,   headless_} {
+    : out_(out), errors_(errors), headless_(out), files_(disk_), machine_(headless_.with(files_, system_)) {
     headless_.whileModal = [this](const Window& modal) { stayIn(modal); };
 }
 
@@ -229,6 +227,7 @@ void ScriptRunner::beginAnew() {
     program_.reset();
     headless_.beginAnew();
     program_ = std::make_unique<Program>(machine_);
+    headless_.setMainWindow(&program_->pultform);
 }
 
 void ScriptRunner::fresh(ScriptLine& line) {

@@ -45,7 +45,7 @@ class Editing : public testing::Test {
     HeadlessMachine headless_{log_};
     HeadlessSystem system_;
     PosixFiles files_{folder_.path()};
-    Machine machine_{headless_, headless_, headless_, files_, headless_, headless_, system_, headless_};
+    Machine machine_ = headless_.with(files_, system_);
     Program program_{machine_};
 };
 

@@ -105,7 +105,7 @@ class RandomKeys : public testing::TestWithParam<unsigned> {
     HeadlessMachine headless_{log_};
     HeadlessSystem system_;
     PosixFiles files_{folder_};
-    Machine machine_{headless_, headless_, headless_, files_, headless_, headless_, system_, headless_};
+    Machine machine_ = headless_.with(files_, system_);
     Program program_{machine_};
     std::mt19937 random_;
 };

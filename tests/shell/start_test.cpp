@@ -80,7 +80,7 @@ class Start : public testing::Test {
     HeadlessSystem system_;
     PosixFiles disk_{folder_.path()};
     FaultyFiles files_{disk_};
-    Machine machine_{headless_, headless_, headless_, files_, headless_, headless_, system_, headless_};
+    Machine machine_ = headless_.with(files_, system_);
 };
 
 TEST_F(Start, stopsWhereAnyComponentIsMissingAndWritesNothing) {
@@ -242,7 +242,7 @@ struct EndingInThePause : Process {
 
 TEST_F(Start, endsOnlyOnce) {
     EndingInThePause process(headless_);
-    Machine machine{headless_, headless_, headless_, files_, headless_, process, system_, headless_};
+    Machine machine = machine_.with(process);
     Program program(machine);
     program.keys.run([&] { program.start(); });
     headless_.queueAnswer(BoxAnswer::yes);

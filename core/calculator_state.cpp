@@ -1,6 +1,8 @@
 #include "core/calculator_state.h"
 
 #include "core/number_format.h"
+#include "core/operators.h"
+#include "core/prompts.h"
 
 namespace zifferon {
 
@@ -23,6 +25,14 @@ CalculatorState::CalculatorState() {
     Texterror.visible = false;
     checkrnd.caption = u"&RND 2";
     applyFormatMode(*this);
+}
+
+bool chainHolds(const CalculatorState& state) {
+    const Separators separators = state.separators();
+    if (!state.chainActive.equals(1, separators)) return true;
+    if (state.txtop.is(u"=")) return false;
+    if (state.percentPrompt || promptStands(state)) return true;
+    return pendingOperator(state) != nullptr && readsAsNumber(state.zwischen.text(), separators);
 }
 
 namespace {

@@ -103,6 +103,10 @@ struct CalculatorState {
     TextView inLanguage(Words words) const { return words.in(language); }
 };
 
+// What holds whenever no key is on its way: a running chain has an operator pending and a figure in zwischen,
+// unless a prompt stands there, and "=" ends it.
+bool chainHolds(const CalculatorState& state);
+
 // Sets decimalPointStyle and brings the figures that stand in the fields and variables into its separators;
 // the lines of both tapes stay as they were printed.
 void setDecimalPointStyle(CalculatorState& state, double style);

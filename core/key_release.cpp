@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <utility>
 
 #include "core/prompts.h"
@@ -141,6 +142,9 @@ class KeyRelease {
 
 }  // namespace
 
-void eingabe_KeyUp(CalculatorState& state, int code) { KeyRelease(state, code).run(); }
+void eingabe_KeyUp(CalculatorState& state, int code) {
+    KeyRelease(state, code).run();
+    assert(chainHolds(state));
+}
 
 }  // namespace zifferon

@@ -1,6 +1,7 @@
 #include "platform/key_road.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 #include "platform/windows1252.h"
@@ -13,9 +14,7 @@ KeyRoad::KeyRoad(Window& window, std::function<void()> refused)
 void KeyRoad::keyDown(Key key) {
     if (depth_ == 0) deliverQueued();
     if (std::find(held_.begin(), held_.end(), key) == held_.end()) held_.push_back(key);
-    ++depth_;
-    press(key);
-    --depth_;
+    inside([&] { press(key); });
     settle();
 }
 
@@ -34,15 +33,24 @@ void KeyRoad::stroke(Key key) {
 
 void KeyRoad::run(const std::function<void()>& handler) {
     if (!handler) return;
-    ++depth_;
-    handler();
-    --depth_;
+    inside(handler);
     settle();
 }
 
 void KeyRoad::releaseAll() {
     releaseAllWaits_ = true;
     settle();
+}
+
+// Handlers are left by exceptions too: where the program ends, or a script goes on elsewhere.
+void KeyRoad::inside(const std::function<void()>& handler) {
+    struct Depth {
+        explicit Depth(int& depth) : depth_(depth) { ++depth_; }
+        ~Depth() { --depth_; }
+        int& depth_;
+    };
+    const Depth depth(depth_);
+    handler();
 }
 
 void KeyRoad::press(Key key) {
@@ -63,19 +71,17 @@ void KeyRoad::press(Key key) {
 }
 
 void KeyRoad::release(Key key) {
-    ++depth_;
     Control* const target = window_.focus();
-    if (target != nullptr && target->onKeyUp) target->onKeyUp(key.code);
-    --depth_;
+    if (target == nullptr || !target->onKeyUp) return;
+    inside([&] { target->onKeyUp(key.code); });
 }
 
 void KeyRoad::deliverQueued() {
+    assert(depth_ == 0);
     while (!queue_.empty()) {
         const Key key = queue_.front();
         queue_.pop_front();
-        ++depth_;
-        press(key);
-        --depth_;
+        inside([&] { press(key); });
         release(key);
     }
 }

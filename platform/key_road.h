@@ -38,6 +38,7 @@ class KeyRoad {
     void releaseAll();
 
   private:
+    void inside(const std::function<void()>& handler);
     void press(Key key);
     void release(Key key);
     void deliverQueued();

@@ -1,6 +1,7 @@
 #include "platform/text_field.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 #include "platform/key.h"
@@ -135,6 +136,7 @@ void TextField::replace(std::size_t start, std::size_t length, TextView by) {
 }
 
 void TextField::changed(std::size_t unchangedPrefix) {
+    assert(caret_ + selection_ <= text_.size());
     for (TextFollower* follower : followers_) {
         follower->unchangedPrefix_ = std::min(follower->unchangedPrefix_, unchangedPrefix);
     }

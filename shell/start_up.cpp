@@ -5,6 +5,7 @@
 
 #include "print/letterhead.h"
 #include "shell/locale.h"
+#include "shell/required_files.h"
 #include "storage/settings_files.h"
 #include "storage/write_protection.h"
 
@@ -14,19 +15,6 @@ namespace {
 
 // The pauses of the loading window, in milliseconds.
 constexpr int beforeCells = 200, behindCell = 30, behindCells = 1000;
-
-constexpr std::array requiredFiles = {"font.zfr",
-                                      "rattle1.wav",
-                                      "rattle2.wav",
-                                      "start.wav",
-                                      "switch.wav",
-                                      "switch2.wav",
-                                      "temp.dat",
-                                      "trash.wav",
-                                      "undo.wav",
-                                      "zifferonpro-help_de.chm",
-                                      "zifferonpro-help_en.chm",
-                                      "quicksave.zfr"};
 
 constexpr TextView missingComponents =
     u"ERROR 001:\r\n\r\n"

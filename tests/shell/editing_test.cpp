@@ -1,26 +1,14 @@
 // Copy, paste and undo, whatever state the calculator is in.
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <sstream>
 
-#include "platform/headless/headless_machine.h"
-#include "platform/headless/headless_system.h"
-#include "platform/posix_files.h"
-#include "shell/program.h"
-#include "tests/support/fresh_folder.h"
+#include "tests/support/headless_test.h"
 
 namespace zifferon {
 namespace {
 
-class Editing : public testing::Test {
+class Editing : public FreshProgramTest {
   protected:
-    Editing() { program_.beginFresh(); }
-
-    void type(TextView characters) {
-        for (const char16_t character : characters) program_.keys.stroke(keyOfCharacter(character));
-    }
     void undo() { program_.pultform.onUndo(); }
     void paste(TextView text) { program_.pultform.onPaste(text); }
 
@@ -33,20 +21,11 @@ class Editing : public testing::Test {
     }
     std::string entry() { return toUtf8(state().eingabe.text()); }
     std::string clipboard() { return toUtf8(headless_.text()); }
-    CalculatorState& state() { return program_.pultform.state; }
     long beeps() {
         const std::string log = log_.str();
         log_.str("");
         return std::count(log.begin(), log.end(), 'b');  // no other event holds that letter
     }
-
-    FreshFolder folder_;
-    std::ostringstream log_;
-    HeadlessMachine headless_{log_};
-    HeadlessSystem system_;
-    PosixFiles files_{folder_.path()};
-    Machine machine_ = headless_.with(files_, system_);
-    Program program_{machine_};
 };
 
 TEST_F(Editing, pastedLettersDoNotCommand) {

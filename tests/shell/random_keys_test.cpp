@@ -1,25 +1,17 @@
 // Any key at any moment, in any order of downs and ups: the program stands, and its state keeps its
 // invariants.
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <random>
-#include <sstream>
 
-#include "platform/headless/headless_machine.h"
-#include "platform/headless/headless_system.h"
-#include "platform/posix_files.h"
 #include "platform/user_actions.h"
-#include "shell/program.h"
 #include "shell/send_keys.h"
+#include "tests/support/headless_test.h"
 
 namespace zifferon {
 namespace {
 
-class RandomKeys : public testing::TestWithParam<unsigned> {
+class RandomKeys : public FreshProgramTest, public testing::WithParamInterface<unsigned> {
   protected:
     RandomKeys() : random_(GetParam()) {
         headless_.whileModal = [this](const Window&) {
@@ -27,10 +19,7 @@ class RandomKeys : public testing::TestWithParam<unsigned> {
             clickAnyOf(program_.help, keys);
             keys.run(program_.help.onDismiss);
         };
-        program_.beginFresh();
     }
-
-    ~RandomKeys() override { std::filesystem::remove_all(folder_); }
 
     unsigned below(unsigned limit) { return static_cast<unsigned>(random_() % limit); }
 
@@ -83,18 +72,6 @@ class RandomKeys : public testing::TestWithParam<unsigned> {
         EXPECT_NE(program_.pultform.focus(), nullptr);
     }
 
-    static std::string freshFolder() {
-        std::string folder = testing::TempDir() + "zifferon-keys-XXXXXX";
-        return mkdtemp(folder.data()) != nullptr ? folder : "";
-    }
-
-    const std::string folder_ = freshFolder();
-    std::ostringstream log_;
-    HeadlessMachine headless_{log_};
-    HeadlessSystem system_;
-    PosixFiles files_{folder_};
-    Machine machine_ = headless_.with(files_, system_);
-    Program program_{machine_};
     std::mt19937 random_;
 };
 

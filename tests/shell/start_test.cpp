@@ -3,31 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <sstream>
 
-#include "platform/headless/faulty_files.h"
-#include "platform/headless/headless_machine.h"
-#include "platform/headless/headless_system.h"
-#include "platform/posix_files.h"
-#include "shell/program.h"
+#include "shell/required_files.h"
 #include "shell/start_windows.h"
-#include "tests/support/fresh_folder.h"
+#include "tests/support/headless_test.h"
 
 namespace zifferon {
 namespace {
-
-constexpr std::array delivered = {"font.zfr",
-                                  "rattle1.wav",
-                                  "rattle2.wav",
-                                  "start.wav",
-                                  "switch.wav",
-                                  "switch2.wav",
-                                  "temp.dat",
-                                  "trash.wav",
-                                  "undo.wav",
-                                  "zifferonpro-help_de.chm",
-                                  "zifferonpro-help_en.chm",
-                                  "quicksave.zfr"};
 
 // What a hand without a mouse chooses in the window of the first run.
 TEST(LanguageWindow, isUsedByTheKeyboard) {
@@ -51,10 +33,10 @@ TEST(LanguageWindow, isUsedByTheKeyboard) {
     EXPECT_EQ(chosen(german, {keyOfCharacter(u'x'), tab}), std::nullopt);
 }
 
-class Start : public testing::Test {
+class Start : public HeadlessTest {
   protected:
     Start() {
-        for (const char* name : delivered) folder_.put(name, "");
+        for (const char* name : requiredFiles) folder_.put(name, "");
     }
 
     // Starts and types a sum; false where the program has ended itself.
@@ -64,27 +46,17 @@ class Start : public testing::Test {
         Program program(machine_);
         try {
             program.keys.run([&] { program.start(); });
-            for (const char16_t key : Text(u"5+3\r")) program.keys.stroke(keyOfCharacter(key));
+            type(program, u"5+3\r");
         } catch (const ProcessEnded&) {
             return false;
         }
         EXPECT_EQ(program.pultform.state.zwischen.text(), u"8,00");
         return true;
     }
-
-    bool logHas(const std::string& words) const { return log_.str().find(words) != std::string::npos; }
-
-    FreshFolder folder_;
-    std::ostringstream log_;
-    HeadlessMachine headless_{log_};
-    HeadlessSystem system_;
-    PosixFiles disk_{folder_.path()};
-    FaultyFiles files_{disk_};
-    Machine machine_ = headless_.with(files_, system_);
 };
 
 TEST_F(Start, stopsWhereAnyComponentIsMissingAndWritesNothing) {
-    for (const char* name : delivered) {
+    for (const char* name : requiredFiles) {
         std::filesystem::remove(folder_ / name);
         EXPECT_FALSE(startAndAdd()) << name;
         EXPECT_TRUE(logHas("ERROR 001:")) << name;
@@ -126,7 +98,7 @@ TEST_F(Start, bearsRubbishInEverySettingsFile) {
             headless_.beginAnew();
             Program program(machine_);
             ASSERT_NO_THROW(program.keys.run([&] { program.start(); })) << name;
-            for (const char16_t key : Text(u"5+3\r")) program.keys.stroke(keyOfCharacter(key));
+            type(program, u"5+3\r");
             EXPECT_TRUE(program.pultform.state.operand.equals(8, commaStyle)) << name;
             EXPECT_GT(program.pultform.place.width, 5000) << name;
             EXPECT_GT(program.pultform.place.height, 1500) << name;
@@ -141,7 +113,7 @@ TEST_F(Start, bringsStoredFiguresUnderTheSeparatorsInForce) {
     {
         Program program(machine_);
         program.keys.run([&] { program.start(); });
-        for (const char16_t key : Text(u"1234,5+m12,5")) program.keys.stroke(keyOfCharacter(key));
+        type(program, u"1234,5+m12,5");
     }
     folder_.put("quicksave.zfr", folder_.bytes("Temp/temp1.tmp"));
     system_.locale = "00000409";
@@ -149,7 +121,7 @@ TEST_F(Start, bringsStoredFiguresUnderTheSeparatorsInForce) {
     Program program(machine_);
     program.keys.run([&] { program.start(); });
     EXPECT_EQ(program.pultform.state.zwischen.text(), u"1,234.50");
-    for (const char16_t key : Text(u"1m1+")) program.keys.stroke(keyOfCharacter(key));
+    type(program, u"1m1+");
     EXPECT_EQ(program.pultform.state.memo[0].text(), u"1,234.50");
     EXPECT_EQ(program.pultform.state.zwischen.text(), u"1,235.50");
     EXPECT_EQ(program.pultform.state.anzeige.text(), u"\r\n1.234,50      \r\n1.00 +   ");
@@ -161,7 +133,7 @@ TEST_F(Start, soundsOnlyWhereItIsSeen) {
         Program program(machine_);
         program.keys.run([&] { program.start(); });
         program.keys.run([&] { program.pultform.state.Checksound.setTicked(true); });
-        for (const char16_t key : Text(u"5+")) program.keys.stroke(keyOfCharacter(key));
+        type(program, u"5+");
     }
     folder_.put("quicksave.zfr", folder_.bytes("Temp/temp1.tmp"));
     const std::string seen, inTray = fromHex("04 00 00 00 00 00 04 00 00 00 00 00 02 00 00 00 02 00 01 00");

@@ -1,36 +1,13 @@
 // Snapshots that are missing, damaged or in the way.
 
-#include <gtest/gtest.h>
-
-#include <sstream>
-
-#include "platform/headless/headless_machine.h"
-#include "platform/headless/headless_system.h"
-#include "platform/posix_files.h"
-#include "shell/program.h"
-#include "tests/support/fresh_folder.h"
+#include "tests/support/headless_test.h"
 
 namespace zifferon {
 namespace {
 
-class UndoFiles : public testing::Test {
+class UndoFiles : public FreshProgramTest {
   protected:
-    UndoFiles() { program_.beginFresh(); }
-
-    void type(TextView characters) {
-        for (const char16_t character : characters) program_.keys.stroke(keyOfCharacter(character));
-    }
     void undo() { program_.keys.stroke({keyCode::right}); }
-    CalculatorState& state() { return program_.pultform.state; }
-    bool logHas(const std::string& words) const { return log_.str().find(words) != std::string::npos; }
-
-    FreshFolder folder_;
-    std::ostringstream log_;
-    HeadlessMachine headless_{log_};
-    HeadlessSystem system_;
-    PosixFiles files_{folder_.path()};
-    Machine machine_ = headless_.with(files_, system_);
-    Program program_{machine_};
 };
 
 TEST_F(UndoFiles, aDamagedSnapshotLeavesTheCalculationAlone) {

@@ -1,9 +1,9 @@
 // The windows around the calculator, as a person meets them: loading window, Print/Edit page, help window.
-#include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include "platform/qt/application.h"
+#include "shell/required_files.h"
 #include "tests/window/window_fixture.h"
 
 namespace zifferon::test {
@@ -12,23 +12,12 @@ namespace {
 
 constexpr int letterE = 26, letterH = 43;
 
-void deliver(const char* name, const QByteArray& bytes = {}) {
-    QFile file(QString::fromLatin1(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 // The whole start, from an empty calculator; the first run is behind it.
 class StartTest : public WindowTest {
   protected:
     void SetUp() override {
-        for (const char* name : {"font.zfr", "rattle1.wav", "rattle2.wav", "start.wav", "switch.wav",
-                                 "switch2.wav", "temp.dat", "trash.wav", "undo.wav",
-                                 "zifferonpro-help_de.chm", "zifferonpro-help_en.chm", "quicksave.zfr"}) {
-            deliver(name);
-        }
-        deliver("ntcheck.zfr", QByteArray("\0\0\x80\x3F", 4));
-        deliver("decpoint.dat", QByteArray("\0\0\x80\x3F", 4));
+        for (const char* name : requiredFiles) folder.put(name, "");
+        for (const char* name : {"ntcheck.zfr", "decpoint.dat"}) folder.put(name, fromHex("00 00 80 3F"));
         QDir().mkdir(QStringLiteral("Temp"));
         machine.desktop.attachTo(view);
         hands.setNumLock(true);
@@ -87,8 +76,7 @@ TEST_F(StartTest, ADesktopThatKeepsTheKeyboardIsNotWaitedFor) {
 TEST_F(StartTest, AMessageBeforeTheFirstShowingCloses) {
     TrayHost tray;
     if (!tray.start()) GTEST_SKIP() << "missing: trayer";
-    const QByteArray inTray("\x04\0\0\0\0\0\x04\0\0\0\0\0\x02\0\0\0\x02\0\x01\0", 20);
-    deliver("winstate.dat", inTray);
+    folder.put("winstate.dat", fromHex("04 00 00 00 00 00 04 00 00 00 00 00 02 00 00 00 02 00 01 00"));
     typeFromTheBeginning([&] { hands.stroke({keys::right}); }, 1);
     bool answered = false;
     whenAWindowOpens([&](QWidget& message) {

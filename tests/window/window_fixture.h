@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <functional>
 #include <string>
@@ -14,6 +13,7 @@
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_machine.h"
 #include "shell/program.h"
+#include "tests/support/fresh_folder.h"
 #include "tests/window/real_input.h"
 
 namespace zifferon::test {
@@ -24,13 +24,10 @@ bool comesTrue(const std::function<bool()>& condition, int milliseconds = 10000)
 void letPass(int milliseconds);
 
 // An empty program folder, and the current one.
-class FreshFolder {
+class CurrentFolder : public FreshFolder {
   public:
-    FreshFolder() { QDir::setCurrent(folder_.path()); }
-    ~FreshFolder() { QDir::setCurrent(QDir::rootPath()); }
-
-  private:
-    QTemporaryDir folder_;
+    CurrentFolder() { QDir::setCurrent(QString::fromStdString(path())); }
+    ~CurrentFolder() { QDir::setCurrent(QDir::rootPath()); }
 };
 
 // A tray in the left lower corner of the screen, while it lives.
@@ -68,7 +65,7 @@ class WindowTest : public ::testing::Test {
         return [this, key](QWidget&) { hands.stroke({key}); };
     }
 
-    FreshFolder folder;
+    CurrentFolder folder;
     QtMachine machine;
     Program program{machine.machine};
     FormView view{program.pultform, program.keys};

@@ -57,6 +57,7 @@ class Control {
     Text picture;         // pictures and picture buttons: name of the drawing; empty: none
     bool visible = true;
     bool enabled = true;
+    bool flat = false;               // a button that is not drawn
     const Control* frame = nullptr;  // the frame that it lies in and is hidden with; null: the window
     bool takesFocus = false;         // a click gives it the focus
     Colour foreColour{0, 0, 0};
@@ -74,6 +75,19 @@ class Control {
 
     void click() { call(onClick); }
 
+    // What a click does, or the access key.
+    virtual void press() { click(); }
+
+    // Its own handling of a key that commands, with Shift held or not; whether it takes characters, and what
+    // it does with one of the program's character set. None but a text field does anything.
+    virtual void handleKey(int /*code*/, bool /*shift*/ = false) {}
+    virtual bool takesCharacters() const { return false; }
+    virtual void handleCharacter(char16_t /*character*/) {}
+
+    // Whether Shift and that key select in it; it selects all that it holds.
+    virtual bool selectsBy(int /*code*/) const { return false; }
+    virtual void selectAll() {}
+
     // Visible, and so is what it lies in.
     bool shown() const { return visible && (frame == nullptr || frame->shown()); }
 
@@ -87,6 +101,8 @@ class CheckBox : public Control {
   public:
     CheckBox() : Control(ControlKind::checkBox) {}
     bool ticked() const { return ticked_; }
+
+    void press() override { setTicked(!ticked_); }
 
     // A tick that really changes runs the click handler, whoever changes it.
     void setTicked(bool ticked) {

@@ -58,16 +58,12 @@ void KeyRoad::press(Key key) {
     if (target == nullptr) return;
     int code = key.code;
     if (target->onKeyDown) target->onKeyDown(code);
-    auto* const field = dynamic_cast<TextField*>(target);
-    if (key.character == 0) {
-        if (field != nullptr) field->editByKey(code);
-        return;
-    }
+    if (key.character == 0) return target->handleKey(code);
     char16_t character = key.character;
     if (target->onKeyPress) target->onKeyPress(character);
-    if (field == nullptr || character == 0) return;
+    if (character == 0 || !target->takesCharacters()) return;
     if (!toWindows1252(character)) return refused_();
-    field->typeCharacter(character);
+    target->handleCharacter(character);
 }
 
 void KeyRoad::release(Key key) {

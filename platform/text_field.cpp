@@ -38,17 +38,24 @@ void TextField::select(std::size_t start, std::size_t length) {
     anchoredAtEnd_ = false;
 }
 
-void TextField::editByKey(int code, bool selects) {
+void TextField::handleKey(int code, bool shift) {
     if (code == keyCode::del) {
         if (!locked) replace(caret_, selection_ > 0 ? selection_ : behind(caret_) - caret_, u"");
         return;
     }
-    if (selects) return extendSelection(code);
+    if (shift) return extendSelection(code);
     const bool byLines = multiLine && (code == keyCode::up || code == keyCode::down);
     const bool back = code == keyCode::left || code == keyCode::up;
     const bool on = code == keyCode::right || code == keyCode::down;
     if (selection_ > 0 && !byLines && (back || on)) return setCaret(back ? caret_ : caret_ + selection_);
     if (const auto position = moved(caret_, code)) setCaret(*position);
+}
+
+// In one line the keys that leave it command; with Shift they do so too.
+bool TextField::selectsBy(int code) const {
+    const bool inLine =
+        code == keyCode::left || code == keyCode::right || code == keyCode::home || code == keyCode::end;
+    return inLine || (multiLine && code >= keyCode::pageUp && code <= keyCode::down);
 }
 
 void TextField::extendSelection(int code) {
@@ -113,7 +120,7 @@ std::size_t TextField::behind(std::size_t position) const {
     return std::min<std::size_t>(position + (lineEnds ? 2 : 1), text_.size());
 }
 
-void TextField::typeCharacter(char16_t character) {
+void TextField::handleCharacter(char16_t character) {
     if (locked) return;
     if (character == keyCode::back) {
         const std::size_t start = selection_ > 0 ? caret_ : before(caret_);

@@ -63,14 +63,18 @@ class TextField : public Control {
     void caretToEnd() { setCaret(text_.size()); }
 
     // The field's own handling of an editing key: arrows, Home, End, Delete. A line end, CR LF, counts as one
-    // character; of several lines Home and End go to those of the line. Other codes do nothing. With
-    // `selects`, as with Shift held, a key that moves the caret takes the selection along from where it was.
-    void editByKey(int code, bool selects = false);
+    // character; of several lines Home and End go to those of the line. Other codes do nothing. With Shift a
+    // key that moves the caret takes the selection along from where it was.
+    void handleKey(int code, bool shift = false) override;
 
     // The field's own handling of a character that the key press left: 8 is a Backspace, printable ones enter
     // at the caret in place of the selection unless the field is locked or full, and so does 13 as a line end
     // where there are several lines; all others do nothing. A change runs onChange.
-    void typeCharacter(char16_t character);
+    bool takesCharacters() const override { return true; }
+    void handleCharacter(char16_t character) override;
+
+    bool selectsBy(int code) const override;
+    void selectAll() override { select(0, text_.size()); }
 
     bool multiLine = false;
     int pageLines = 20;    // of several lines: how far Page Up and Page Down go

@@ -35,16 +35,21 @@ void EditCommands::wire() {
     pultform_.onCopy = [this] { copy(copied()); };
     pultform_.onCut = [this] { cut(); };
     pultform_.onUndo = [this] { undo(); };
-    for (TextField* field : {&s.eingabe, &s.anzeige, &s.superdruck}) {
+    for (TextField* field : fieldsWithMenu()) {
         field->menu = [this, field] { return menuOf(*field); };
     }
-    for (TextField& cell : s.memo) cell.menu = [this, &cell] { return menuOf(cell); };
+}
+
+std::vector<TextField*> EditCommands::fieldsWithMenu() const {
+    std::vector<TextField*> fields = {&s.eingabe, &s.anzeige, &s.superdruck};
+    for (TextField& cell : s.memo) fields.push_back(&cell);
+    return fields;
 }
 
 // The selection; without one what the field holds, but for the two tapes; of an empty entry the running
 // value.
 Text EditCommands::copied() const {
-    const auto* const field = dynamic_cast<const TextField*>(pultform_.focus());
+    const TextField* const field = fieldInUse();
     if (field == nullptr) return {};
     if (field->selectionLength() > 0) {
         return field->multiLine ? asLines(selected(*field)) : Text(selected(*field));
@@ -55,13 +60,19 @@ Text EditCommands::copied() const {
     return promptStands(s) || s.zwischen.is(u"Error") ? Text() : s.zwischen.text();
 }
 
+const TextField* EditCommands::fieldInUse() const {
+    const auto fields = fieldsWithMenu();
+    const auto found = std::find(fields.begin(), fields.end(), pultform_.focus());
+    return found != fields.end() ? *found : nullptr;
+}
+
 void EditCommands::copy(TextView text) {
     if (text.empty()) return s.calls->beep();
     machine_.clipboard.setText(text);
 }
 
 void EditCommands::cut() {
-    const auto* const field = dynamic_cast<const TextField*>(pultform_.focus());
+    const TextField* const field = fieldInUse();
     if (field == nullptr || field->selectionLength() == 0) return s.calls->beep();
     copy(copied());
     keys_.stroke({keyCode::del});

@@ -16,6 +16,8 @@ class EditCommands {
     void wire();
 
   private:
+    std::vector<TextField*> fieldsWithMenu() const;
+    const TextField* fieldInUse() const;
     Text copied() const;
     void copy(TextView text);
     void cut();

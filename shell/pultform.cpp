@@ -66,6 +66,7 @@ Pultform::Pultform() {
     add(stripes.timerraster, u"timerraster");
     add(s.errortimer, u"errortimer");
     add(s.messtimer, u"messtimer");
+    s.spezrnd.flat = nixspez.flat = true;
     layOutPultform(*this);
     s.eingabeForeColor = s.eingabe.foreColour;
 }

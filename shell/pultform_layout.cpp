@@ -93,11 +93,11 @@ std::vector<Row> desktop() {
          .visible = false,
          .spoken = u"Meldung"},
         {.name = u"spezrnd",
-         .place = outside,
+         .place = {1950, 5812, 195, 195},
          .style = onKey,
          .caption = u"& ",
          .spoken = u"auf 0,05 runden"},
-        {.name = u"nixspez", .place = outside, .style = onKey},
+        {.name = u"nixspez", .place = {2205, 5812, 195, 195}, .style = onKey},
 
         {.name = u"Picture1",
          .place = {5700, 120, 2295, 2325},

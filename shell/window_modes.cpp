@@ -88,6 +88,7 @@ void WindowModes::placeEntryBlock(bool strip) {
     moveTo(s.eingabe, strip ? 280 : 300, strip ? 850 : 6960);
     moveTo(s.txtop, strip ? 4945 : 4970, strip ? 850 : 6960);
     moveTo(window_.Command3, strip ? 4975 : 4995, strip ? 885 : 6995);
+    moveTo(s.spezrnd, strip ? 5340 : 1950, strip ? 1090 : 5812);
     window_.placeTexterror();
 }
 

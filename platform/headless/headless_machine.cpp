@@ -99,6 +99,7 @@ BoxAnswer HeadlessMachine::takeAnswer(BoxAnswer unasked) {
 }
 
 BoxAnswer HeadlessMachine::show(const Box& box) {
+    ++boxesShown_;
     const bool asks = box.buttons != BoxButtons::ok;
     if (asks && answers_.empty() && onUnansweredQuestion) onUnansweredQuestion();
     const BoxAnswer answer = takeAnswer(unasked(box.buttons));

@@ -49,6 +49,9 @@ class HeadlessMachine : public Boxes,
     // The lines of the log that nobody has taken yet, oldest first. Of very many only the newest are kept.
     std::deque<std::string>& events() { return events_; }
 
+    // How many boxes have been shown so far.
+    unsigned long boxesShown() const { return boxesShown_; }
+
     // A new program on the same machine: no timer of the former one is due, and the clipboard is empty.
     void beginAnew();
 
@@ -109,6 +112,7 @@ class HeadlessMachine : public Boxes,
     std::deque<std::string> events_;
     std::deque<BoxAnswer> answers_;
     Text clipboard_;
+    unsigned long boxesShown_ = 0;
     bool trayIcon_ = false;
     std::int64_t now_ = 0;  // milliseconds
     std::unordered_map<const Timer*, Due> due_;

@@ -38,6 +38,7 @@ class ButtonView : public ControlView {
     ButtonView(Control& control, QAbstractButton& button, FormView& form)
         : ControlView(control, button, form), button_(button) {
         button_.setFocusPolicy(Qt::NoFocus);
+        button_.setAutoFillBackground(!control.flat);
         connect(&button_, &QAbstractButton::clicked, this, [this] { this->form().press(this->control()); });
     }
 
@@ -55,6 +56,12 @@ class ButtonView : public ControlView {
     QAbstractButton& button_;
     std::optional<Text> picture_, caption_;
 };
+
+QPushButton* newPushButton(const Control& control, FormView& form) {
+    auto* const button = new QPushButton(&form);
+    button->setFlat(control.flat);
+    return button;
+}
 
 class CheckBoxView : public ButtonView {
   public:
@@ -175,7 +182,7 @@ std::unique_ptr<ControlView> makeControlView(Control& control, FormView& form) {
         case ControlKind::label:
             return std::make_unique<LabelView>(control, form);
         case ControlKind::button:
-            return std::make_unique<ButtonView>(control, *new QPushButton(&form), form);
+            return std::make_unique<ButtonView>(control, *newPushButton(control, form), form);
         case ControlKind::checkBox:
             return std::make_unique<CheckBoxView>(control, form);
         case ControlKind::frame:

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <utility>
 
+#include "platform/mouse.h"
 #include "platform/qt/form_view.h"
 
 namespace zifferon {
@@ -94,17 +95,23 @@ bool ControlView::eventFilter(QObject* surface, QEvent* event) {
             // A right button opens the menu of what is selected.
             if (control_.menu && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) return true;
             clickPending_ = !button && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
-            mousePressed(position());
-            form_.run(control_.onMouseDown);
+            form_.act([&] {
+                mousePress(form_.window(), form_.keys(), control_);
+                mousePressed(position());
+            });
             return !button;
         case QEvent::MouseMove:
             if (static_cast<QMouseEvent*>(event)->buttons() & Qt::LeftButton) mouseDragged(position());
-            form_.run(control_.onMouseMove);
+            form_.act([&] { mouseMove(form_.keys(), control_); });
             return !button;
         case QEvent::MouseButtonRelease: {
             const bool inside = static_cast<QWidget*>(surface)->rect().contains(position());
-            form_.run(control_.onMouseUp);
-            if (std::exchange(clickPending_, false) && inside) form_.run(control_.onClick);
+            const bool clicks = std::exchange(clickPending_, false) && inside;
+            if (clicks) {
+                form_.act([&] { mouseRelease(form_.keys(), control_); });
+            } else {
+                form_.run(control_.onMouseUp);
+            }
             return !button;
         }
         case QEvent::ContextMenu:
@@ -112,7 +119,7 @@ bool ControlView::eventFilter(QObject* surface, QEvent* event) {
             form_.openMenu(control_, static_cast<QContextMenuEvent*>(event)->globalPos());
             return true;
         case QEvent::MouseButtonDblClick:
-            form_.run(control_.onDoubleClick);
+            form_.act([&] { mouseDoubleClick(form_.keys(), control_); });
             return !button;
         default:
             return false;

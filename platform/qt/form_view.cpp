@@ -125,14 +125,13 @@ QWidget* FormView::topmost() {
 }
 
 void FormView::press(Control& control) {
-    run([&] {
-        if (control.kind == ControlKind::checkBox) {
-            auto& checkBox = static_cast<CheckBox&>(control);
-            checkBox.setTicked(!checkBox.ticked());
-        } else {
-            control.click();
-        }
-    });
+    run([&] { control.press(); });
+}
+
+void FormView::act(const std::function<void()>& deed) {
+    settleActivation();
+    deed();
+    refreshAll();
 }
 
 void FormView::openMenu(Control& control, QPoint position) {
@@ -141,11 +140,7 @@ void FormView::openMenu(Control& control, QPoint position) {
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (MenuEntry& entry : control.menu()) {
-        const auto chosen = [this, choose = std::move(entry.onChoose)] {
-            settleActivation();
-            choose();
-            refreshAll();
-        };
+        const auto chosen = [this, choose = std::move(entry.onChoose)] { act(choose); };
         menu->addAction(toQString(entry.caption), this, chosen)->setEnabled(entry.enabled);
     }
     menu->popup(position);

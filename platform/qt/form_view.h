@@ -45,6 +45,9 @@ class FormView : public QWidget {
     // Runs a handler that is no keystroke, and shows what it did. An empty one does nothing.
     void run(const std::function<void()>& handler);
 
+    // The same for what is no handler itself, but runs some one after the other.
+    void act(const std::function<void()>& deed);
+
     // A window that has just come into use learns it before the first key or click that it gets.
     void settleActivation();
 
@@ -59,6 +62,7 @@ class FormView : public QWidget {
     void openMenu(Control& control, QPoint position);
 
     Window& window() const { return window_; }
+    KeyRoad& keys() const { return keys_; }
 
   private:
     bool event(QEvent* event) override;

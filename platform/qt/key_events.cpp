@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <utility>
 
+#include "platform/mouse.h"
 #include "platform/qt/form_view.h"
 
 namespace zifferon {
@@ -42,10 +43,6 @@ int editingLetter(const QKeyEvent& event) {
 }
 
 bool moves(int code) { return code >= keyCode::pageUp && code <= keyCode::down; }
-
-bool movesInLine(int code) {
-    return code == keyCode::left || code == keyCode::right || code == keyCode::home || code == keyCode::end;
-}
 
 bool isFunctionKey(int code) { return code >= keyCode::f1 && code <= keyCode::f1 + 15; }
 
@@ -264,14 +261,14 @@ void KeyEvents::letGoOf(quint32 scanCode) {
 // Whether the key copies, pastes, selects or undoes; it is none of the calculator's then.
 bool KeyEvents::edits(const QKeyEvent& event) {
     const Window& window = form_.window();
-    auto* const field = dynamic_cast<TextField*>(window.focus());
+    Control* const focus = window.focus();
     const auto call = [](const std::function<void()>& command) {
         if (command) command();
         return true;
     };
     switch (editingLetter(event)) {
         case Qt::Key_A:
-            if (field != nullptr) keys_.run([&] { field->select(0, field->text().size()); });
+            if (focus != nullptr) keys_.run([&] { focus->selectAll(); });
             return true;
         case Qt::Key_C:
             return call(window.onCopy);
@@ -286,10 +283,11 @@ bool KeyEvents::edits(const QKeyEvent& event) {
             break;
     }
     const auto key = keyOf(event);
-    if (!key || field == nullptr || !(event.modifiers() & Qt::ShiftModifier)) return false;
-    if (key->character != 0 || !(field->multiLine ? moves(key->code) : movesInLine(key->code))) return false;
+    if (!key || key->character != 0 || focus == nullptr || !(event.modifiers() & Qt::ShiftModifier))
+        return false;
+    if (!focus->selectsBy(key->code)) return false;
     held_[event.nativeScanCode()] = *key;
-    keys_.run([&] { field->editByKey(key->code, true); });
+    keys_.run([&] { focus->handleKey(key->code, true); });
     return true;
 }
 
@@ -309,15 +307,15 @@ void KeyEvents::type(const QString& text) {
     FormView::refreshAll();
 }
 
-// The topmost control that is in use and has the letter behind the "&" of its caption.
+// The topmost control that can be reached and has the letter behind the "&" of its caption.
 Control* KeyEvents::accessControl(const QString& typed) const {
     if (typed.size() != 1) return nullptr;
     const QChar letter = typed.front().toLower();
     const auto answers = [&](const Control* control) {
         const bool pressable = control->kind == ControlKind::button || control->kind == ControlKind::checkBox;
         const std::size_t mark = control->caption.find(u'&');
-        return pressable && control->shown() && control->enabled && mark + 1 < control->caption.size() &&
-               QChar(control->caption[mark + 1]).toLower() == letter;
+        return pressable && mark + 1 < control->caption.size() &&
+               QChar(control->caption[mark + 1]).toLower() == letter && isReachable(form_.window(), *control);
     };
     const auto& controls = form_.window().controls();
     const auto found = std::find_if(controls.rbegin(), controls.rend(), answers);

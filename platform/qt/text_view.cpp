@@ -13,8 +13,7 @@ namespace zifferon {
 
 namespace {
 
-// What the mouse does is the same in every text field: a press gives the focus and places the caret, a drag
-// selects from there.
+// What the mouse does is the same in every text field: a press places the caret, a drag selects from there.
 class TextView : public ControlView {
   public:
     TextView(TextField& field, QWidget& widget, QWidget& surface, FormView& form)
@@ -32,11 +31,8 @@ class TextView : public ControlView {
   private:
     void mousePressed(QPoint position) override {
         if (!field_.takesFocus) return;
-        form().run([&] {
-            form().window().setFocus(field_);
-            anchor_ = positionAt(position);
-            field_.setCaret(anchor_);
-        });
+        anchor_ = positionAt(position);
+        field_.setCaret(anchor_);
     }
 
     void mouseDragged(QPoint position) override {

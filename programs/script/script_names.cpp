@@ -147,6 +147,10 @@ const std::unordered_map<std::string_view, Variable>& variables() {
     return table;
 }
 
+const TextField* fieldOf(const Control& control) {
+    return control.kind == ControlKind::textField ? &static_cast<const TextField&>(control) : nullptr;
+}
+
 std::optional<std::string> propertyOf(const Control& control, std::string_view property) {
     if (property == "visible") return render(control.visible);
     if (property == "enabled") return render(control.enabled);
@@ -157,10 +161,10 @@ std::optional<std::string> propertyOf(const Control& control, std::string_view p
     if (property == "width") return std::to_string(control.place.width);
     if (property == "height") return std::to_string(control.place.height);
     if (property == "align") return render(control.alignment);
-    if (const auto* box = dynamic_cast<const CheckBox*>(&control)) {
-        if (property == "ticked") return render(box->ticked());
+    if (control.kind == ControlKind::checkBox && property == "ticked") {
+        return render(static_cast<const CheckBox&>(control).ticked());
     }
-    if (const auto* field = dynamic_cast<const TextField*>(&control)) {
+    if (const TextField* const field = fieldOf(control)) {
         if (property == "text") return render(field->text());
         if (property == "caret") return std::to_string(field->caret());
         if (property == "locked") return render(field->locked);
@@ -170,7 +174,7 @@ std::optional<std::string> propertyOf(const Control& control, std::string_view p
 }
 
 std::string mainValueOf(const Control& control) {
-    const auto* field = dynamic_cast<const TextField*>(&control);
+    const TextField* const field = fieldOf(control);
     return render(field != nullptr ? field->text() : control.caption);
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/number_format.h"
-#include "platform/user_actions.h"
+#include "platform/mouse.h"
 #include "programs/script/decimal_command.h"
 #include "programs/script/script_keys.h"
 #include "programs/script/script_names.h"
@@ -108,7 +108,7 @@ bool ScriptRunner::runKeys(const std::string& command, ScriptLine& line) {
         do {
             const std::string name = line.word();
             if (isAccessKeyOfBlank(name)) {
-                if (Control* const button = window().find(u"spezrnd")) keys().run(button->onClick);
+                pressByAccessKey(u"spezrnd");
             } else {
                 keys().stroke(scriptKey(name));
             }
@@ -134,19 +134,42 @@ bool ScriptRunner::runKeys(const std::string& command, ScriptLine& line) {
 
 bool ScriptRunner::runMouse(const std::string& command, ScriptLine& line) {
     if (command == "focus" || command == "caret" || command == "select") return select(command, line), true;
-    using Action = void (*)(Window&, KeyRoad&, Control&);
-    static const std::map<std::string, Action> actions = {
-        {"click", userClick},
-        {"dblclick", userDoubleClick},
-        {"mousedown", [](Window&, KeyRoad& road, Control& target) { userMouseDown(road, target); }},
-        {"mouseup", [](Window&, KeyRoad& road, Control& target) { userMouseUp(road, target); }},
-        {"hover", [](Window&, KeyRoad& road, Control& target) { userHover(road, target); }}};
+    using Action = void (ScriptRunner::*)(Control&);
+    static const std::map<std::string, Action> actions = {{"click", &ScriptRunner::click},
+                                                          {"dblclick", &ScriptRunner::doubleClick},
+                                                          {"mousedown", &ScriptRunner::mouseDown},
+                                                          {"mouseup", &ScriptRunner::mouseUp},
+                                                          {"hover", &ScriptRunner::hover}};
     const auto action = actions.find(command);
     if (action == actions.end()) return false;
     Control& target = control(line);
-    if (windowOf(target, program()) == &window()) action->second(window(), keys(), target);
+    const bool inUse = windowOf(target, program()) == &window();
+    if (inUse && isReachable(window(), target)) (this->*action->second)(target);
     return true;
 }
+
+void ScriptRunner::pressByAccessKey(TextView controlName) {
+    Control* const button = window().find(controlName);
+    if (button != nullptr && isReachable(window(), *button)) keys().run([&] { button->press(); });
+}
+
+// A press whose handler shows a box ends there: the box takes the mouse.
+void ScriptRunner::click(Control& target) {
+    const auto boxes = headless_.boxesShown();
+    mousePress(window(), keys(), target);
+    if (headless_.boxesShown() == boxes) mouseRelease(keys(), target);
+}
+
+void ScriptRunner::doubleClick(Control& target) {
+    click(target);
+    if (isReachable(window(), target)) mouseDoubleClick(keys(), target);
+}
+
+void ScriptRunner::mouseDown(Control& target) { mousePress(window(), keys(), target); }
+
+void ScriptRunner::mouseUp(Control& target) { keys().run(target.onMouseUp); }
+
+void ScriptRunner::hover(Control& target) { mouseMove(keys(), target); }
 
 bool ScriptRunner::runDesktop(const std::string& command, ScriptLine& line) {
     Desktop& desktop = headless_;
@@ -283,10 +306,10 @@ void ScriptRunner::select(const std::string& command, ScriptLine& line) {
         if (target.takesFocus) keys().run([&] { window().setFocus(target); });
         return;
     }
-    auto* const field = dynamic_cast<TextField*>(&target);
-    if (field == nullptr) throw MalformedScript("no text field");
+    if (target.kind != ControlKind::textField) throw MalformedScript("no text field");
     const auto start = static_cast<std::size_t>(line.number());
-    field->select(start, command == "select" ? static_cast<std::size_t>(line.number()) : 0);
+    static_cast<TextField&>(target).select(start,
+                                           command == "select" ? static_cast<std::size_t>(line.number()) : 0);
 }
 
 void ScriptRunner::show(std::string_view name) {

@@ -8,10 +8,10 @@
 #include <string>
 #include <string_view>
 
+#include "platform/folder_lock.h"
 #include "platform/headless/faulty_files.h"
 #include "platform/headless/headless_machine.h"
 #include "platform/headless/headless_system.h"
-#include "platform/folder_lock.h"
 #include "platform/posix_files.h"
 #include "programs/script/script_line.h"
 #include "shell/program.h"
@@ -37,6 +37,12 @@ class ScriptRunner {
     void unwindModal() const;
     bool runStage(const std::string& command, ScriptLine& line);
     bool runKeys(const std::string& command, ScriptLine& line);
+    void click(Control& target);
+    void doubleClick(Control& target);
+    void mouseDown(Control& target);
+    void mouseUp(Control& target);
+    void hover(Control& target);
+    void pressByAccessKey(TextView controlName);
     bool runMouse(const std::string& command, ScriptLine& line);
     bool runDesktop(const std::string& command, ScriptLine& line);
     bool runLook(const std::string& command, ScriptLine& line);

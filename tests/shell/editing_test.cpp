@@ -216,7 +216,7 @@ TEST_F(Editing, undoIsThatOfTheButton) {
 TEST_F(Editing, shiftSelectsFromWhereItBegan) {
     TextField& field = state().eingabe;
     type(u"12345");
-    const auto extend = [&](int code) { field.editByKey(code, true); };
+    const auto extend = [&](int code) { field.handleKey(code, true); };
     extend(keyCode::left);
     extend(keyCode::left);
     EXPECT_EQ(field.selectionStart(), 3U);

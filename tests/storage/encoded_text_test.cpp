@@ -76,7 +76,7 @@ TEST(EncodedText, followsItsFieldThroughAllChanges) {
                 break;
             case 2:
                 field.setCaret(random() % (field.text().size() + 1));
-                field.typeCharacter(random() % 2 == 0 ? u'\b' : u'«');
+                field.handleCharacter(random() % 2 == 0 ? u'\b' : u'«');
                 break;
             case 3:
                 encoded.setBytes(earlier[random() % earlier.size()]);

@@ -158,6 +158,10 @@ TEST_F(WindowTest, AccessKeysPress) {
     pressWith(keys::alt, keys::letterN);
     EXPECT_TRUE(comesTrue([&] { return state().Checksound.ticked(); }));
     EXPECT_EQ(entry(), "");
+    view.run(program.pultform.page.edit.onClick);
+    pressWith(keys::alt, keys::letterR);  // what lies covered is out of reach
+    letPass(100);
+    EXPECT_TRUE(state().checkrnd.ticked());
 }
 
 TEST_F(WindowTest, AltAloneAndF10ReachTheCalculator) {

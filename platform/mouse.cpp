@@ -1,0 +1,55 @@
+#include "platform/mouse.h"
+
+#include <algorithm>
+
+namespace zifferon {
+
+namespace {
+
+struct Point {
+    int x, y;
+};
+
+Point middleOf(const Place& place) { return {place.left + place.width / 2, place.top + place.height / 2}; }
+
+bool contains(const Place& place, Point point) {
+    return point.x >= place.left && point.x < place.left + place.width && point.y >= place.top &&
+           point.y < place.top + place.height;
+}
+
+bool takesMouse(const Control& control) {
+    return control.shown() && (control.enabled || control.kind != ControlKind::label);
+}
+
+Place clientArea(const Window& window) {
+    return {0, 0, window.place.width - (window.framed ? frameWidth : 0),
+            window.place.height - (window.framed ? frameHeight : 0)};
+}
+
+}  // namespace
+
+bool isReachable(const Window& window, const Control& control) {
+    const Point middle = middleOf(control.place);
+    if (!control.shown() || !control.enabled || !contains(clientArea(window), middle)) return false;
+    const auto& controls = window.controls();
+    const auto itself = std::find(controls.begin(), controls.end(), &control);
+    return std::none_of(itself + 1, controls.end(), [&](const Control* above) {
+        return takesMouse(*above) && contains(above->place, middle);
+    });
+}
+
+void mousePress(Window& window, KeyRoad& keys, Control& control) {
+    keys.run(control.onMouseDown);
+    if (control.takesFocus) keys.run([&] { window.setFocus(control); });
+}
+
+void mouseRelease(KeyRoad& keys, Control& control) {
+    keys.run(control.onMouseUp);
+    keys.run([&] { control.press(); });
+}
+
+void mouseDoubleClick(KeyRoad& keys, Control& control) { keys.run(control.onDoubleClick); }
+
+void mouseMove(KeyRoad& keys, Control& control) { keys.run(control.onMouseMove); }
+
+}  // namespace zifferon

@@ -8,7 +8,7 @@ namespace zifferon {
 enum class Language { german, english };
 
 struct Words {
-    TextView german, english;
+    TextView german{}, english{};
     TextView in(Language language) const { return language == Language::english ? english : german; }
 };
 

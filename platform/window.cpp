@@ -15,6 +15,32 @@ void Window::add(Timer& timer, TextView timerName) {
     timers_.push_back(&timer);
 }
 
+namespace {
+
+void set(Text& text, Words words, Language language) {
+    const TextView said = words.english.empty() ? words.german : words.in(language);
+    if (!said.empty()) text = said;
+}
+
+}  // namespace
+
+void Window::say(Control& control, const Said& said) {
+    set(control.caption, said.caption, Language::german);
+    set(control.accessibleName, said.spoken, Language::german);
+    set(control.toolTip, said.tip, Language::german);
+    speakers_.push_back(
+        {control, Pair(said.caption), Pair(said.changedCaption), Pair(said.spoken), Pair(said.tip)});
+}
+
+void Window::speak(Language language, bool changed) {
+    for (const Speaker& speaker : speakers_) {
+        set(speaker.control.caption, speaker.caption.words(), language);
+        if (changed) set(speaker.control.caption, speaker.changedCaption.words(), language);
+        set(speaker.control.accessibleName, speaker.spoken.words(), language);
+        set(speaker.control.toolTip, speaker.tip.words(), language);
+    }
+}
+
 Control* Window::find(TextView controlName) const {
     const auto found = std::find_if(controls_.begin(), controls_.end(),
                                     [&](const Control* control) { return control->name == controlName; });

@@ -6,6 +6,7 @@
 
 #include "platform/boxes.h"
 #include "platform/control.h"
+#include "platform/language.h"
 #include "platform/text_field.h"
 #include "platform/timer.h"
 
@@ -49,6 +50,18 @@ class Window {
     const std::vector<Control*>& controls() const { return controls_; }
     const std::vector<Timer*>& timers() const { return timers_; }
 
+    // What a control says in each language; in one where a pair holds no English. The German is said at once.
+    struct Said {
+        Words caption{};
+        Words changedCaption{};  // what a change of the language sets in place of the caption, if anything
+        Words spoken{};          // for a screen reader
+        Words tip{};
+    };
+    void say(Control& control, const Said& said);
+
+    // Brings all that say() has told into a language: as it is from a start on, or as a change sets it.
+    void speak(Language language, bool changed);
+
     // The control of that name, or null.
     Control* find(TextView controlName) const;
 
@@ -60,6 +73,18 @@ class Window {
     bool setFocus(Control& control);
 
   private:
+    // The pairs as the window keeps them.
+    struct Pair {
+        explicit Pair(Words words) : german(words.german), english(words.english) {}
+        Words words() const { return {german, english}; }
+        Text german, english;
+    };
+    struct Speaker {
+        Control& control;
+        Pair caption, changedCaption, spoken, tip;
+    };
+
+    std::vector<Speaker> speakers_;
     std::vector<Control*> controls_;
     std::vector<Timer*> timers_;
     Control* focus_ = nullptr;

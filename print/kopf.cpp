@@ -24,7 +24,9 @@ Kopf::Kopf(const Language& language) : language_(language) {
     framed = false;  // a frame would have a close box
     place = {0, 0, 9000, 8000};
     onDismiss = [] {};
-    addCaptioned(Label1, u"Label1", {15, 15, 8970, 345}, u" Daten für Briefkopf und Fußzeile");
+    addCaptioned(Label1, u"Label1", {15, 15, 8970, 345},
+                 {u" Daten für Briefkopf und Fußzeile", u"Data for letterhead"},
+                 {u"Daten für Briefkopf und Fußzeile", u"Data for letterhead"});
     Label1.foreColour = paleBlue;
     Label1.backColour = darkBlue;
     Label1.font = {u"Arial", 9, true};
@@ -38,85 +40,105 @@ Kopf::Kopf(const Language& language) : language_(language) {
     }
 }
 
+// The headings of the columns stand over them by their blanks.
 void Kopf::addHeadLines() {
-    addCaptioned(Label2, u"Label2", {margin, 480, 6420, 240},
-                 u"Leerzeile" + blanks(39) + u"Kopfzeile(n)" + blanks(42) + u"Schriftgröße");
+    const Text german = u"Leerzeile" + blanks(39) + u"Kopfzeile(n)" + blanks(42) + u"Schriftgröße";
+    const Text english = u"Blank line" + blanks(42) + u"Headline" + blanks(47) + u"Font size";
+    addCaptioned(Label2, u"Label2", {margin, 480, 6420, 240}, {german, english});
     int top = 765;
     char16_t digit = u'1';
     for (const Line& line : lines) {
         const Text number(1, digit), ofLists(1, digit == u'5' ? u'7' : digit);
+        const Text germanName = number + u". Kopfzeile", englishName = u"Headline " + number;
         addTick(line.blank, u"Check" + ofLists, {tickLeft, top, tickWidth, rowHeight},
-                number + u". Kopfzeile leer");
+                {germanName + u" leer", englishName + u" blank"});
         addField(line.text, u"zeile" + number, {textLeft, top, textWidth, rowHeight},
-                 number + u". Kopfzeile");
+                 {germanName, englishName});
         addSize(line.size, u"Combo" + ofLists, {sizeLeft, top, sizeWidth, rowHeight},
-                u"Schriftgröße der " + number + u". Kopfzeile");
+                {u"Schriftgröße der " + germanName, englishName + u": font size"});
         top += rowStep;
         ++digit;
     }
-    addCaptioned(checkstamm, u"checkstamm", {switchLeft, 765, switchWidth, rowHeight}, u"&Briefkopf drucken");
-    addCaptioned(logo, u"logo", {switchLeft, 765 + rowStep, switchWidth, rowHeight}, u"Logo");
-    addCaptioned(Check5, u"Check5", {textLeft, 2835, textWidth, 300}, u"Trennstrich - &OBEN");
+    addCaptioned(checkstamm, u"checkstamm", {switchLeft, 765, switchWidth, rowHeight},
+                 {u"&Briefkopf drucken", u"&Print letterhead"});
+    addCaptioned(logo, u"logo", {switchLeft, 765 + rowStep, switchWidth, rowHeight}, {u"Logo"});
+    addCaptioned(Check5, u"Check5", {textLeft, 2835, textWidth, 300},
+                 {u"Trennstrich - &OBEN", u"Horizontal line (&top)"},
+                 {u"Trennstrich - &OBEN", u"&Dividing line (top)"});
 }
 
 void Kopf::addFooter() {
-    addCaptioned(Check6, u"Check6", {textLeft, 3255, textWidth, 300}, u"Trennstrich - &UNTEN");
-    addCaptioned(Label3, u"Label3", {margin, 3675, 6420, 240},
-                 blanks(55) + u"Fußzeile(n)" + blanks(46) + u"Schriftgröße" + blanks(28));
+    addCaptioned(Check6, u"Check6", {textLeft, 3255, textWidth, 300},
+                 {u"Trennstrich - &UNTEN", u"Horizontal line (&bottom)"},
+                 {u"&Trennstrich - &UNTEN", u"&Dividing line (bottom)"});
+    const Text german = blanks(55) + u"Fußzeile(n)" + blanks(46) + u"Schriftgröße" + blanks(28);
+    const Text english = blanks(59) + u"Footer" + blanks(53) + u"Font size";
+    addCaptioned(Label3, u"Label3", {margin, 3675, 6420, 240}, {german, english});
     nachtext.multiLine = true;
-    addField(nachtext, u"nachtext", {textLeft, 3960, textWidth, 1200}, u"Fußzeilen");
-    addSize(Combo6, u"Combo6", {sizeLeft, 3960, sizeWidth, rowHeight}, u"Schriftgröße der Fußzeilen");
+    addField(nachtext, u"nachtext", {textLeft, 3960, textWidth, 1200}, {u"Fußzeilen", u"Footer"});
+    addSize(Combo6, u"Combo6", {sizeLeft, 3960, sizeWidth, rowHeight},
+            {u"Schriftgröße der Fußzeilen", u"Footer: font size"});
 }
 
 void Kopf::addLooks() {
-    addCaptioned(Frame3, u"Frame3", {margin, 5310, 8670, 1905}, u"Schriftart");
-    addCaptioned(Label4, u"Label4", {6450, 5580, 2250, 240}, u" fett    kursiv");
-    addCaptioned(Label10, u"Label10", {345, 5850, 2700, rowHeight}, u"Einstellung für 1. Kopfzeile");
-    addCaptioned(Label9, u"Label9", {345, 5850 + rowStep, 2700, rowHeight},
-                 u"Einstellung für 2. - 5. Kopfzeile");
-    addCaptioned(Label8, u"Label8", {345, 5850 + 2 * rowStep, 2700, rowHeight}, u"Einstellung für Fußzeilen");
+    addCaptioned(Frame3, u"Frame3", {margin, 5310, 8670, 1905}, {u"Schriftart", u"Font type"});
+    addCaptioned(Label4, u"Label4", {6450, 5580, 2250, 240}, {u" fett    kursiv", u" bold    italic"});
+    const auto addLabel = [this](Control& label, TextView labelName, int row, Words text) {
+        addCaptioned(label, labelName, {345, 5850 + row * rowStep, 2700, rowHeight}, text);
+    };
+    addLabel(Label10, u"Label10", 0, {u"Einstellung für 1. Kopfzeile", u"Settings for first headline"});
+    addLabel(Label9, u"Label9", 1, {u"Einstellung für 2. - 5. Kopfzeile", u"Settings 2nd - 5th headline"});
+    addLabel(Label8, u"Label8", 2, {u"Einstellung für Fußzeilen", u"Settings for footer"});
     constexpr std::array<TextView, 3> fontNames = {u"Combo5", u"combfoart2", u"combfoart3"};
-    constexpr std::array<TextView, 3> targets = {u"1. Kopfzeile", u"2. bis 5. Kopfzeile", u"Fußzeilen"};
+    constexpr std::array<Words, 3> targets = {{{u"1. Kopfzeile", u"Headline 1"},
+                                               {u"2. bis 5. Kopfzeile", u"Headlines 2 to 5"},
+                                               {u"Fußzeilen", u"Footer"}}};
     for (std::size_t i = 0; i < looks.size(); ++i) {
         const Look& look = looks[i];
         const int top = look.label.place.top;
-        const Text target(targets[i]), number(1, static_cast<char16_t>(u'1' + i));
-        addField(look.font, fontNames[i], {3150, top, 3000, rowHeight}, u"Schriftart: " + target);
-        addTick(look.bold, u"bold" + number, {6540, top, tickWidth, rowHeight}, target + u" fett");
-        addTick(look.italic, u"kur" + number, {7125, top, tickWidth, rowHeight}, target + u" kursiv");
+        const Text german(targets[i].german), english(targets[i].english);
+        const Text number(1, static_cast<char16_t>(u'1' + i));
+        addField(look.font, fontNames[i], {3150, top, 3000, rowHeight},
+                 {u"Schriftart: " + german, u"Font: " + english});
+        addTick(look.bold, u"bold" + number, {6540, top, tickWidth, rowHeight},
+                {german + u" fett", english + u" bold"});
+        addTick(look.italic, u"kur" + number, {7125, top, tickWidth, rowHeight},
+                {german + u" kursiv", english + u" italic"});
         look.label.frame = look.font.frame = look.bold.frame = look.italic.frame = &Frame3;
     }
     Label4.frame = &Frame3;
 }
 
 void Kopf::addButtons() {
-    addCaptioned(dakill, u"dakill", {margin, 7395, 1800, 420}, u"Daten &löschen");
-    addCaptioned(muster, u"muster", {2115, 7395, 1800, 420}, u"&Muster");
-    addCaptioned(kopfok, u"kopfok", {5010, 7395, 3825, 420}, u"Daten &übernehmen und Menü verlassen");
+    addCaptioned(dakill, u"dakill", {margin, 7395, 1800, 420}, {u"Daten &löschen", u"&Delete data"});
+    addCaptioned(muster, u"muster", {2115, 7395, 1800, 420}, {u"&Muster", u"&Sample"});
+    addCaptioned(kopfok, u"kopfok", {5010, 7395, 3825, 420},
+                 {u"Daten &übernehmen und Menü verlassen", u"Save data and &exit"});
     dakill.backColour = muster.backColour = kopfok.backColour = key;
 }
 
-void Kopf::addCaptioned(Control& control, TextView controlName, Place controlPlace, TextView controlCaption) {
+void Kopf::addCaptioned(Control& control, TextView controlName, Place controlPlace, Words controlCaption,
+                        Words changedCaption) {
     add(control, controlName);
     control.place = controlPlace;
-    control.caption = controlCaption;
+    say(control, {.caption = controlCaption, .changedCaption = changedCaption});
 }
 
-void Kopf::addTick(CheckBox& tick, TextView controlName, Place controlPlace, TextView spoken) {
+void Kopf::addTick(CheckBox& tick, TextView controlName, Place controlPlace, Words spoken) {
     add(tick, controlName);
     tick.place = controlPlace;
-    tick.accessibleName = spoken;
+    say(tick, {.spoken = spoken});
 }
 
-void Kopf::addField(TextField& field, TextView controlName, Place controlPlace, TextView spoken) {
+void Kopf::addField(TextField& field, TextView controlName, Place controlPlace, Words spoken) {
     add(field, controlName);
     field.place = controlPlace;
-    field.accessibleName = spoken;
+    say(field, {.spoken = spoken});
     field.backColour = white;
     field.takesFocus = true;
 }
 
-void Kopf::addSize(TextField& size, TextView controlName, Place controlPlace, TextView spoken) {
+void Kopf::addSize(TextField& size, TextView controlName, Place controlPlace, Words spoken) {
     addField(size, controlName, controlPlace, spoken);
     size.locked = true;  // it is chosen, not typed
     size.setText(u"10");

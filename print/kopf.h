@@ -62,11 +62,12 @@ class Kopf : public Window {
     void addLooks();
     void addButtons();
 
-    // A control with its place in the window; one without a caption has a name for a screen reader.
-    void addCaptioned(Control& control, TextView controlName, Place controlPlace, TextView controlCaption);
-    void addTick(CheckBox& tick, TextView controlName, Place controlPlace, TextView spoken);
-    void addField(TextField& field, TextView controlName, Place controlPlace, TextView spoken);
-    void addSize(TextField& size, TextView controlName, Place controlPlace, TextView spoken);
+    // A control with its place in the window and its caption; one without has a name for a screen reader.
+    void addCaptioned(Control& control, TextView controlName, Place controlPlace, Words controlCaption,
+                      Words changedCaption = {});
+    void addTick(CheckBox& tick, TextView controlName, Place controlPlace, Words spoken);
+    void addField(TextField& field, TextView controlName, Place controlPlace, Words spoken);
+    void addSize(TextField& size, TextView controlName, Place controlPlace, Words spoken);
 
     void followBlankTick(const Line& line);
     Text blankLineNote() const;

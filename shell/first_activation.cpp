@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "core/number_format.h"
-#include "shell/language.h"
 
 namespace zifferon {
 
@@ -48,7 +47,9 @@ void FirstActivation::applySettings() {
     s.formatMode = mode == 0 ? 1 : mode;
     applyFormatMode(s);
     s.language = readLanguage(p.files);
-    if (s.language == Language::english) setEnglishCaptions(p.window, p.kopf);
+    if (s.language == Language::german) return;  // as designed
+    p.window.speak(s.language, false);
+    p.kopf.speak(s.language, false);
 }
 
 void FirstActivation::beginSnapshots(const StartOptions& options) {

@@ -1,6 +1,5 @@
 #include "shell/help_desk.h"
 
-#include "shell/language.h"
 #include "storage/settings_files.h"
 
 namespace zifferon {
@@ -65,7 +64,8 @@ void HelpDesk::changeLanguage(Language language) {
     help_.setCaptions(language);
     help_.setTitle(language);
     s.language = language;
-    changeCaptions(window_, kopf_, language);
+    window_.speak(language, true);
+    kopf_.speak(language, true);
     if (!stored) return;  // that has been told; the language holds for this run
     messages_.tell({u"Die Spracheinstellung wurde auf Deutsch geändert.   ",
                     u"The language has been set to English.   "});

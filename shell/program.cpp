@@ -1,7 +1,5 @@
 #include "shell/program.h"
 
-#include "shell/language.h"
-
 namespace zifferon {
 
 Program::Program(Machine& ofTheProgram)
@@ -54,7 +52,8 @@ void Program::wireDesktop() {
 
 void Program::beginFresh() {
     CalculatorState& s = pultform.state;
-    if (s.language == Language::english) setEnglishCaptions(pultform, kopf);
+    pultform.speak(s.language, false);
+    kopf.speak(s.language, false);
     sounds.skipStart();
     startUp.readFrame();
     modes.layOutFull();

@@ -41,8 +41,7 @@ class Pultform : public Window {
     Control standardprint{ControlKind::button}, cmdkopf{ControlKind::button}, back{ControlKind::button};
 };
 
-// Gives every control of the window its place, caption, font and colours. A row of the table whose control
-// the window does not hold only reserves its place.
+// Adds every control with its name, place, colours, and texts in both languages.
 void layOutPultform(Pultform& window);
 
 }  // namespace zifferon

@@ -48,7 +48,7 @@ class ButtonView : public ControlView {
             button_.setIcon(QIcon(drawingOf(*picture_)));
         }
         if (!differs(caption_, control().caption)) return;
-        button_.setText(toQString(control().caption));
+        button_.setText(control().flat ? QString() : toQString(control().caption));
         button_.setShortcut({});
     }
 

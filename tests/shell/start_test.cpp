@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <tuple>
 
 #include "shell/required_files.h"
 #include "shell/start_windows.h"
@@ -125,6 +126,18 @@ TEST_F(Start, bringsStoredFiguresUnderTheSeparatorsInForce) {
     EXPECT_EQ(program.pultform.state.memo[0].text(), u"1,234.50");
     EXPECT_EQ(program.pultform.state.zwischen.text(), u"1,235.50");
     EXPECT_EQ(program.pultform.state.anzeige.text(), u"\r\n1.234,50      \r\n1.00 +   ");
+}
+
+TEST_F(Start, tellsScreenReadersInTheLanguageInForce) {
+    Program program(machine_);
+    for (const auto& [language, entry, line] : {std::tuple(Language::english, u"Entry", u"Headline 1"),
+                                                std::tuple(Language::german, u"Eingabe", u"1. Kopfzeile")}) {
+        program.pultform.speak(language, true);
+        program.kopf.speak(language, true);
+        EXPECT_EQ(program.pultform.state.eingabe.accessibleName, entry);
+        EXPECT_EQ(program.kopf.zeile1.accessibleName, line);
+        EXPECT_EQ(program.pultform.state.memo[4].accessibleName, u"M5");
+    }
 }
 
 // The sound of the start comes from a window that is seen; in the tray it neither sounds nor is made up for.

@@ -15,7 +15,7 @@ namespace zifferon {
 
 namespace {
 
-constexpr int longestWaitForTheFolder = 5000;  // milliseconds
+constexpr int longestWaitForTheFolder = 2000;  // milliseconds
 
 // Thrown through the handlers that wait for a modal window to close.
 class ScriptOver {};

@@ -141,7 +141,7 @@ TEST_F(Start, tellsScreenReadersInTheLanguageInForce) {
 }
 
 // The sound of the start comes from a window that is seen; in the tray it neither sounds nor is made up for.
-TEST_F(Start, soundsOnlyWhereItIsSeen) {
+TEST_F(Start, isHeardOnlyWhereItIsSeen) {
     {
         Program program(machine_);
         program.keys.run([&] { program.start(); });

@@ -8,6 +8,7 @@
 #include "platform/headless/headless_system.h"
 #include "platform/posix_files.h"
 #include "shell/program.h"
+#include "tests/support/fresh_folder.h"
 
 namespace {
 
@@ -35,10 +36,11 @@ class Bench {
     CalculatorState& state() { return program_.pultform.state; }
 
   private:
+    FreshFolder folder_;
     std::ostringstream log_;
     HeadlessMachine headless_;
     HeadlessSystem system_;
-    PosixFiles files_;
+    PosixFiles files_{folder_.path()};
     Machine machine_;
     Program program_;
 };

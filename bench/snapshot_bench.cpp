@@ -11,27 +11,11 @@
 
 #include "platform/posix_files.h"
 #include "storage/calculation_record.h"
+#include "tests/support/fresh_folder.h"
 
 namespace {
 
 using namespace zifferon;
-
-// An empty folder that goes with its owner; the program's folder meanwhile.
-class Folder {
-  public:
-    Folder()
-        : path_(std::filesystem::temp_directory_path() / ("snapshot-bench-" + std::to_string(::getpid()))) {
-        std::filesystem::create_directory(path_);
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    ~Folder() { std::filesystem::remove_all(path_); }
-
-    std::string path() const { return path_.string(); }
-
-  private:
-    std::filesystem::path path_;
-};
 
 class Bench {
   public:
@@ -94,7 +78,7 @@ class Bench {
         field.setTextFrom(field.text().size() - line.size(), u"");
     }
 
-    Folder folder_;
+    FreshFolder folder_;
     PosixFiles files_;
     CalculatorState state_;
     CalculationRecord record_;

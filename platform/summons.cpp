@@ -81,7 +81,7 @@ bool Summons::call(const std::string& token, int milliseconds) const {
     if (name_.empty()) return false;
     const Address address(name_);
     const Descriptor socket(newSocket(0));
-    const timeval longest{milliseconds / 1000, milliseconds % 1000 * 1000};
+    const timeval longest{milliseconds / 1000, milliseconds % 1000 * 1000L};
     ::setsockopt(socket.number(), SOL_SOCKET, SO_RCVTIMEO, &longest, sizeof longest);
     // The other side never waits for a caller: who comes too early is sent away and tries again. The first
     // byte says nothing, so that an empty token has one.

@@ -17,7 +17,7 @@ bool anotherStyleIsWanted() { return qEnvironmentVariableIsSet("QT_STYLE_OVERRID
 // Chosen before the application begins, which would otherwise make another style first.
 int& withOwnStyle(int& argc) {
     QApplication::setDesktopSettingsAware(false);
-    if (!anotherStyleIsWanted()) QApplication::setStyle(new OwnStyle);
+    if (!anotherStyleIsWanted()) QApplication::setStyle(newOwnStyle());
     return argc;
 }
 
@@ -43,7 +43,7 @@ QFont boxFont() { return arial(13); }
 
 Application::Application(int& argc, char** argv) : QApplication(withOwnStyle(argc), argv) {
     setQuitOnLastWindowClosed(false);
-    if (anotherStyleIsWanted()) setStyle(new OwnStyle);
+    if (anotherStyleIsWanted()) setStyle(newOwnStyle());
     setPalette(OwnStyle::palette());
     setFont(arial(11));  // that of most controls: each font more is seen at the start
     QToolTip::setPalette(palette());

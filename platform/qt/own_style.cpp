@@ -22,6 +22,8 @@ void fillFramed(QPainter& painter, const QRect& rect, QColor inner) {
 
 OwnStyle::OwnStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+OwnStyle* newOwnStyle() { return new OwnStyle; }
+
 QPalette OwnStyle::palette() {
     const QColor key(button);
     QPalette colours(QColor(black), key, key.lighter(150), key.darker(150), key.darker(130), QColor(black),
@@ -59,11 +61,11 @@ int OwnStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidge
 // A button that has the keyboard shows it, however it came to it.
 void OwnStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                            const QWidget* widget) const {
-    const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
-    if (element != CE_PushButton || button == nullptr || !(button->state & State_HasFocus)) {
+    const auto* const pushButton = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element != CE_PushButton || pushButton == nullptr || !(pushButton->state & State_HasFocus)) {
         return QProxyStyle::drawControl(element, option, painter, widget);
     }
-    QStyleOptionButton focused(*button);
+    QStyleOptionButton focused(*pushButton);
     focused.state |= State_KeyboardFocusChange;
     QProxyStyle::drawControl(element, &focused, painter, widget);
 }

@@ -24,4 +24,7 @@ class OwnStyle : public QProxyStyle {
     void drawScrollBar(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
 };
 
+// For the application, which owns the style that it is given.
+OwnStyle* newOwnStyle();
+
 }  // namespace zifferon

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QIcon>
 #include <QProcess>
-#include <QTimer>
 
 #include "platform/qt/application.h"
 #include "platform/qt/form_view.h"
@@ -57,10 +56,13 @@ void QtDesktop::trayClicked(QSystemTrayIcon::ActivationReason reason) {
 
 void QtDesktop::tellFromTray(TextView text) {
     constexpr int untilTheIconStands = 500, shown = 10000;  // milliseconds
-    QTimer::singleShot(untilTheIconStands, &tray_->icon, [this, message = toQString(text)] {
+    tray_->message.disconnect();
+    tray_->message.setSingleShot(true);
+    tray_->message.callOnTimeout([this, message = toQString(text)] {
         if (!tray_->icon.isVisible()) return;
         tray_->icon.showMessage(QStringLiteral("Zifferon PRO 5.0"), message, tray_->icon.icon(), shown);
     });
+    tray_->message.start(untilTheIconStands);
 }
 
 // In a Wayland session an X server, if any, sees only the keys that are typed into its own windows.

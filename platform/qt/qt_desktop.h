@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QSocketNotifier>
 #include <QSystemTrayIcon>
+#include <QTimer>
 #include <memory>
 
 #include "platform/desktop.h"
@@ -40,6 +41,7 @@ class QtDesktop : public Desktop {
         QMenu menu;
         QSystemTrayIcon icon;
         QElapsedTimer sinceRightClick;
+        QTimer message;
     };
 
     void makeTray();

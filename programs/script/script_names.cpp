@@ -315,7 +315,7 @@ std::optional<std::string> valueOf(std::string_view name, Program& program, cons
         const Control* focus = (modal != nullptr ? *modal : program.pultform).focus();
         return focus != nullptr ? toUtf8(focus->name) : "";
     }
-    if (const auto value = valueIn(program.pultform, name)) return value;
+    if (auto value = valueIn(program.pultform, name)) return value;
     const std::size_t point = name.find('.');
     if (point == std::string_view::npos) return std::nullopt;
     const std::string_view windowName = name.substr(0, point);
@@ -324,7 +324,7 @@ std::optional<std::string> valueOf(std::string_view name, Program& program, cons
     Window* const loaded = windowCalled(windowName, program);
     Window* const window = loaded != nullptr ? loaded : designed.get();
     if (window == nullptr) return std::nullopt;
-    const auto value = valueIn(*window, part);
+    auto value = valueIn(*window, part);
     return value ? value : propertyOf(*window, part);
 }
 

@@ -167,14 +167,16 @@ TEST_F(Start, isHeardOnlyWhereItIsSeen) {
 
 // A number between two schemes is none, and leaves the designed colours.
 TEST_F(Start, takesOnlyWholeNumbersForColourSchemes) {
-    for (const auto& [bytes, scheme] : {std::pair("00 00 20 40", 0), std::pair("00 00 40 40", 3)}) {
+    for (const auto& [bytes, scheme] :
+         {std::pair("00 00 20 40", 0), std::pair("00 00 40 40", 3), std::pair("00 00 80 BF", 0),
+          std::pair("00 00 88 41", 0), std::pair("00 00 C0 7F", 0), std::pair("00 00 00 00", -1)}) {
         folder_.put("gui1.dat", fromHex(bytes));
         folder_.put("gui2.dat", fromHex(bytes));
         headless_.beginAnew();
         Program program(machine_);
         program.keys.run([&] { program.start(); });
-        EXPECT_EQ(program.colours.textScheme(), scheme);
-        EXPECT_EQ(program.colours.backScheme(), scheme);
+        EXPECT_EQ(program.colours.textScheme(), scheme < 0 ? standardTextScheme : scheme);
+        EXPECT_EQ(program.colours.backScheme(), scheme < 0 ? standardBackScheme : scheme);
     }
 }
 

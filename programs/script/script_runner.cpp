@@ -188,10 +188,15 @@ bool ScriptRunner::runDesktop(const std::string& command, ScriptLine& line) {
         if (what == "dblclick") return run(desktop.onTrayDoubleClick);
         throw MalformedScript("unknown part of the tray " + what);
     }
-    if (command != "close" && command != "activate") return false;
+    if (command != "close" && command != "activate" && command != "move") return false;
     const std::string name = line.word();
-    const Window* const named = windowCalled(name, program());
+    Window* const named = windowCalled(name, program());
     if (named == nullptr) throw MalformedScript("unknown window " + name);
+    if (command == "move") {
+        named->place.left = static_cast<int>(line.number());
+        named->place.top = static_cast<int>(line.number());
+        return line.expectEnd(), true;
+    }
     line.expectEnd();
     if (named == &window()) keys().run(command == "close" ? named->onDismiss : named->onActivate);
     return true;

@@ -165,6 +165,26 @@ TEST_F(Start, isHeardOnlyWhereItIsSeen) {
     }
 }
 
+TEST_F(Start, bringsTheSwitchesOfTheQuickFileBack) {
+    {
+        CalculatorState state;
+        CalculationRecord record(state);
+        record.recordAlwaysOnTop = 1;
+        record.recordSound = record.recordClipboard = record.recordRoundingTick = 1;
+        record.recordRoundingCaption = Text(u"&RND 3");
+        writeRecord(files_, "quicksave.zfr", record);
+    }
+    Program program(machine_);
+    program.keys.run([&] { program.start(); });
+    const CalculatorState& s = program.pultform.state;
+    EXPECT_TRUE(s.Checkob.ticked() && s.Checksound.ticked() && s.clipcheck.ticked() && s.checkrnd.ticked());
+    EXPECT_TRUE(program.pultform.alwaysOnTop);
+    EXPECT_EQ(s.checkrnd.caption, u"&RND 3");
+    type(program, u"1,23456+1\r");
+    EXPECT_EQ(s.eingabe.text(), u"2,235");
+    EXPECT_EQ(headless_.text(), u"2,235");
+}
+
 // A number between two schemes is none, and leaves the designed colours.
 TEST_F(Start, takesOnlyWholeNumbersForColourSchemes) {
     for (const auto& [bytes, scheme] :

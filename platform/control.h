@@ -31,7 +31,7 @@ struct Font {
 
 enum class Alignment { left, right, centre };
 
-enum class ControlKind { textField, label, button, checkBox, frame, picture };
+enum class ControlKind { textField, label, button, checkBox, frame, picture, list, comboBox };
 
 // One row of the menu that the right mouse button opens on a control.
 struct MenuEntry {
@@ -79,10 +79,12 @@ class Control {
     virtual void press() { click(); }
 
     // Its own handling of a key that commands, with Shift held or not; whether it takes characters, and what
-    // it does with one of the program's character set. None but a text field does anything.
+    // it does with one of the program's character set: a button is pressed by Enter and the blank.
     virtual void handleKey(int /*code*/, bool /*shift*/ = false) {}
-    virtual bool takesCharacters() const { return false; }
-    virtual void handleCharacter(char16_t /*character*/) {}
+    virtual bool takesCharacters() const { return kind == ControlKind::button; }
+    virtual void handleCharacter(char16_t character) {
+        if (character == u'\r' || character == u' ') press();
+    }
 
     // Whether Shift and that key select in it; it selects all that it holds.
     virtual bool selectsBy(int /*code*/) const { return false; }
@@ -103,6 +105,10 @@ class CheckBox : public Control {
     bool ticked() const { return ticked_; }
 
     void press() override { setTicked(!ticked_); }
+    bool takesCharacters() const override { return true; }
+    void handleCharacter(char16_t character) override {
+        if (character == u' ') press();
+    }
 
     // A tick that really changes runs the click handler, whoever changes it.
     void setTicked(bool ticked) {

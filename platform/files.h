@@ -56,6 +56,9 @@ class Files {
     // count. A hidden file, one whose name begins with a point, is not. Never fails.
     virtual bool FileExists(std::string_view name) = 0;
 
+    // The same of just this name, with its blanks, and of a hidden one too. Never fails.
+    virtual bool isFile(const std::string& name) = 0;
+
     // The whole file. An absent one is missing.
     virtual FileContent read(const std::string& name) = 0;
 
@@ -66,6 +69,11 @@ class Files {
     // a longer file stay behind them. Where the disk is full the file keeps its former content.
     virtual void write(const std::string& name, std::span<const std::string_view> pieces) = 0;
     void write(const std::string& name, std::string_view content) { write(name, std::span(&content, 1)); }
+
+    // As write, but the file has its former content until the new one is wholly on the disk, whatever happens
+    // meanwhile. It keeps its access rights; a link keeps leading to it. What is no normal file is a failure
+    // of access.
+    virtual void exchange(const std::string& name, std::span<const std::string_view> pieces) = 0;
 
     // Makes `content` the whole file.
     virtual void replace(const std::string& name, std::string_view content) = 0;

@@ -1,7 +1,7 @@
 // One program a folder: two of them would write the same snapshots and settings over each other's.
 #pragma once
 
-#include "platform/posix_files.h"
+#include "platform/posix_calls.h"
 
 namespace zifferon {
 

@@ -4,6 +4,7 @@
 #include <cassert>
 #include <utility>
 
+#include "platform/tab_order.h"
 #include "platform/windows1252.h"
 
 namespace zifferon {
@@ -58,6 +59,7 @@ void KeyRoad::press(Key key) {
     if (target == nullptr) return;
     int code = key.code;
     if (target->onKeyDown) target->onKeyDown(code);
+    if (code == keyCode::tab) return focusNext(window_);
     if (key.character == 0) return target->handleKey(code);
     char16_t character = key.character;
     if (target->onKeyPress) target->onKeyPress(character);

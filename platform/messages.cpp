@@ -26,6 +26,12 @@ bool Messages::confirm(Words text, BoxAnswer byEnter) const {
     return boxes_.show(box) == BoxAnswer::yes;
 }
 
+bool Messages::confirmLoss(Words text) const {
+    Box box = question(text);
+    box.icon = BoxIcon::warning;
+    return boxes_.show(box) == BoxAnswer::yes;
+}
+
 BoxAnswer Messages::ask(Words text) const {
     Box box = question(text);
     box.buttons = BoxButtons::yesNoCancel;

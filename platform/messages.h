@@ -22,6 +22,9 @@ class Messages {
     // A question with Yes and No; whether the answer was Yes. Enter alone answers `byEnter`.
     bool confirm(Words question, BoxAnswer byEnter = BoxAnswer::yes) const;
 
+    // One that warns of what a Yes loses.
+    bool confirmLoss(Words question) const;
+
     // One with Yes, No and Cancel.
     BoxAnswer ask(Words question) const;
 

@@ -39,8 +39,10 @@ bool isReachable(const Window& window, const Control& control) {
 }
 
 void mousePress(Window& window, KeyRoad& keys, Control& control) {
+    const unsigned long wishes = window.focusWishes();
     keys.run(control.onMouseDown);
-    if (control.takesFocus) keys.run([&] { window.setFocus(control); });
+    const bool givenElsewhere = window.focusWishes() != wishes;
+    if (control.takesFocus && !givenElsewhere) keys.run([&] { window.setFocus(control); });
 }
 
 void mouseRelease(KeyRoad& keys, Control& control) {

@@ -10,7 +10,8 @@ namespace zifferon {
 // window, and no later control lies over it. A disabled label leaves the mouse to what it lies on.
 bool isReachable(const Window& window, const Control& control);
 
-// Pressed: the control's own handler, and then the focus goes to one that takes it.
+// Pressed: the control's own handler, and then the focus goes to one that takes it, unless the handler has
+// given it away.
 void mousePress(Window& window, KeyRoad& keys, Control& control);
 
 // Released over the control: its handler, and then the click.

@@ -4,91 +4,27 @@
 #include <fcntl.h>
 #include <fnmatch.h>
 #include <sys/stat.h>
-#include <sys/uio.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <memory>
 #include <optional>
 #include <utility>
+
+#include "platform/file_exchange.h"
 
 namespace zifferon {
 
 namespace {
 
 constexpr off_t largestFile = off_t{1} << 30;       // more is no file of this program
-constexpr mode_t newFile = 0666, newFolder = 0777;  // less what the user's mask takes away
-
-FileTrouble troubleOf(int error) {
-    switch (error) {
-        case ENOENT:
-        case ENOTDIR:
-            return FileTrouble::missing;
-        case EACCES:
-        case EPERM:
-        case EROFS:
-        case ETXTBSY:
-        case EISDIR:
-            return FileTrouble::access;
-        case ENOSPC:
-        case EDQUOT:
-        case EFBIG:
-            return FileTrouble::noSpace;
-        default:
-            return FileTrouble::other;
-    }
-}
-
-[[noreturn]] void fail() { throw FileFailure(troubleOf(errno)); }
-
-// Repeats a call that a signal has interrupted; what else goes wrong is a failure.
-template <class Call>
-auto checked(Call call) {
-    for (;;) {
-        const auto result = call();
-        if (result >= 0) return result;
-        if (errno != EINTR) fail();
-    }
-}
+constexpr mode_t newFolder = 0777;  // less what the user's mask takes away
 
 std::string_view trimmed(std::string_view name) {
     const std::size_t first = name.find_first_not_of(' ');
     if (first == std::string_view::npos) return {};
     return name.substr(first, name.find_last_not_of(' ') - first + 1);
-}
-
-using Parts = std::array<iovec, 8>;  // so many pieces are written at once
-
-// Fills `parts` with what of the pieces lies behind the first `done` bytes, as far as it goes; returns how
-// many.
-int cut(std::span<const std::string_view> pieces, std::size_t done, Parts& parts) {
-    std::size_t count = 0;
-    for (std::string_view piece : pieces) {
-        const std::size_t skipped = std::min(done, piece.size());
-        done -= skipped;
-        piece.remove_prefix(skipped);
-        if (piece.empty()) continue;
-        parts[count++] = {const_cast<char*>(piece.data()), piece.size()};
-        if (count == parts.size()) break;
-    }
-    return static_cast<int>(count);
-}
-
-void writeAll(const Descriptor& file, std::span<const std::string_view> pieces) {
-    Parts parts;
-    std::size_t done = 0;
-    while (const int count = cut(pieces, done, parts)) {
-        done +=
-            static_cast<std::size_t>(checked([&] { return ::writev(file.number(), parts.data(), count); }));
-    }
-}
-
-off_t sizeOf(const Descriptor& file) {
-    struct stat status;
-    checked([&] { return ::fstat(file.number(), &status); });
-    return status.st_size;
 }
 
 // Gets the room for what is longer than the file before the first of its bytes is overwritten. A new file has
@@ -133,16 +69,6 @@ bool isNormalFile(int folder, const std::string& name) {
 
 }  // namespace
 
-Descriptor::~Descriptor() {
-    if (number_ >= 0) ::close(number_);
-}
-
-int Descriptor::release() { return std::exchange(number_, -1); }
-
-void Descriptor::close() {
-    if (::close(release()) != 0 && errno != EINTR) fail();  // interrupted, it is closed all the same
-}
-
 // The folder need not be readable itself. One that cannot be entered has no files.
 PosixFiles::PosixFiles(const std::string& programFolder)
     : folder_(::open(programFolder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
@@ -152,6 +78,8 @@ bool PosixFiles::FileExists(std::string_view name) {
     const std::size_t bare = file.rfind('/') + 1;
     return bare < file.size() && file[bare] != '.' && isNormalFile(folder_.number(), file);
 }
+
+bool PosixFiles::isFile(const std::string& name) { return isNormalFile(folder_.number(), name); }
 
 FileContent PosixFiles::read(const std::string& name) { return readAll(Descriptor(open(name, O_RDONLY))); }
 
@@ -169,6 +97,10 @@ void PosixFiles::write(const std::string& name, std::span<const std::string_view
     reserve(file, pieces);
     writeAll(file, pieces);
     file.close();
+}
+
+void PosixFiles::exchange(const std::string& name, std::span<const std::string_view> pieces) {
+    exchangeFile(folder_.number(), name, pieces);
 }
 
 void PosixFiles::replace(const std::string& name, std::string_view content) {
@@ -207,6 +139,13 @@ std::chrono::system_clock::time_point PosixFiles::lastModified(const std::string
     return std::chrono::system_clock::time_point(sinceEpoch);
 }
 
+void PosixFiles::stamp(const std::string& name, std::chrono::system_clock::time_point written) {
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(written);
+    const timespec time{seconds.time_since_epoch().count(), std::chrono::nanoseconds(written - seconds).count()};
+    const timespec times[] = {time, time};
+    checked([&] { return ::utimensat(folder_.number(), name.c_str(), times, 0); });
+}
+
 std::vector<std::string> PosixFiles::list(const std::string& folder, const std::string& pattern) {
     const Folder opened = openFolder(open(folder, O_RDONLY | O_DIRECTORY));
     std::vector<std::string> names = matchingNames(*opened, pattern);
@@ -215,10 +154,8 @@ std::vector<std::string> PosixFiles::list(const std::string& folder, const std::
     return names;
 }
 
-// Not blocking, so that a pipe in the place of a file is a failure and no waiting for ever.
 int PosixFiles::open(const std::string& name, int flags) {
-    return checked(
-        [&] { return ::openat(folder_.number(), name.c_str(), flags | O_CLOEXEC | O_NONBLOCK, newFile); });
+    return openFile(folder_.number(), name, flags);
 }
 
 FileContent PosixFiles::readAll(const Descriptor& file) {

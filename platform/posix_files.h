@@ -1,29 +1,9 @@
 // Files on a POSIX system.
 #pragma once
 
-#include "platform/files.h"
+#include "platform/posix_calls.h"
 
 namespace zifferon {
-
-// A file descriptor that is closed with its owner.
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor();
-
-    int number() const { return number_; }
-
-    // Hands the descriptor to the caller.
-    int release();
-
-    // Closes it now and throws FileFailure for what only the closing tells.
-    void close();
-
-  private:
-    int number_;
-};
 
 class PosixFiles : public Files {
   public:
@@ -34,15 +14,20 @@ class PosixFiles : public Files {
     using Files::write;
 
     bool FileExists(std::string_view name) override;
+    bool isFile(const std::string& name) override;
     FileContent read(const std::string& name) override;
     FileContent readOrCreate(const std::string& name) override;
     void write(const std::string& name, std::span<const std::string_view> pieces) override;
+    void exchange(const std::string& name, std::span<const std::string_view> pieces) override;
     void replace(const std::string& name, std::string_view content) override;
     void remove(const std::string& name) override;
     void removeAll(const std::string& folder, const std::string& pattern) override;
     void createFolder(const std::string& name) override;
     std::chrono::system_clock::time_point lastModified(const std::string& name) override;
     std::vector<std::string> list(const std::string& folder, const std::string& pattern) override;
+
+    // Makes it the time when the content was last written.
+    void stamp(const std::string& name, std::chrono::system_clock::time_point written);
 
   private:
     int open(const std::string& name, int flags);

@@ -1,6 +1,7 @@
 // The system as a POSIX environment tells it.
 #pragma once
 
+#include "platform/date_text.h"
 #include "platform/system.h"
 
 namespace zifferon {
@@ -16,6 +17,9 @@ class PosixSystem : public System {
     // Layouts are designed for the classic frame, which Window takes as given: no correction of any height.
     std::string GetWindowsStyle() const override { return "classic"; }
     std::string GetSystemName() const override { return "Unbekanntes Betriebssystem"; }
+    Text shortDateTime(std::chrono::system_clock::time_point moment) const override {
+        return dateTimeText(moment, GetDecStyle());
+    }
     int captionHeight() const override { return 19; }
 };
 

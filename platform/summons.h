@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/posix_files.h"
+#include "platform/posix_calls.h"
 
 namespace zifferon {
 

@@ -1,7 +1,10 @@
 // What the program asks about the system that it runs on.
 #pragma once
 
+#include <chrono>
 #include <string>
+
+#include "platform/text.h"
 
 namespace zifferon {
 
@@ -18,6 +21,9 @@ class System {
 
     // "Windows XP" and the like; "Unbekanntes Betriebssystem" for any other.
     virtual std::string GetSystemName() const = 0;
+
+    // A moment as short date and time of day, in the form of the user's locale and in local time.
+    virtual Text shortDateTime(std::chrono::system_clock::time_point moment) const = 0;
 
     // The height of a window's caption in pixels, of which 19 need no correction of a window's height.
     virtual int captionHeight() const = 0;

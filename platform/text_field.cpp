@@ -19,6 +19,7 @@ std::size_t TextFollower::takeUnchangedPrefix() {
 void TextField::setText(TextView text) {
     caret_ = selection_ = 0;
     if (text == text_) return;
+    changes_.clear();
     text_ = text;
     changed(0);
 }
@@ -28,6 +29,7 @@ void TextField::append(TextView text) { setTextFrom(text_.size(), text); }
 void TextField::setTextFrom(std::size_t position, TextView text) {
     caret_ = selection_ = 0;
     if (TextView(text_).substr(position) == text) return;
+    changes_.clear();
     text_.replace(position, Text::npos, text);
     changed(position);
 }
@@ -137,9 +139,29 @@ void TextField::handleCharacter(char16_t character) {
 void TextField::replace(std::size_t start, std::size_t length, TextView by) {
     length = std::min(length, text_.size() - start);
     if (length == 0 && by.empty()) return;
+    if (keepsChanges) keepChange(start, TextView(text_).substr(start, length), by);
     text_.replace(start, length, by);
     setCaret(start + by.size());
     changed(start);
+}
+
+// Characters typed in one go are one change, up to the end of a line.
+void TextField::keepChange(std::size_t start, TextView old, TextView by) {
+    const bool goesOn = !changes_.empty() && by.size() == 1 && old.size() <= 1 && changes_.back().inserted > 0 &&
+                        changes_.back().start + changes_.back().inserted == start;
+    if (!goesOn) return changes_.push_back({start, Text(old), by.size()});
+    changes_.back().old += old;
+    changes_.back().inserted += 1;
+}
+
+bool TextField::undo() {
+    if (changes_.empty() || locked) return false;
+    const Change last = std::move(changes_.back());
+    changes_.pop_back();
+    text_.replace(last.start, last.inserted, last.old);
+    select(last.start, last.old.size());
+    changed(last.start);
+    return true;
 }
 
 void TextField::changed(std::size_t unchangedPrefix) {

@@ -33,7 +33,8 @@ class TextFollower {
 
 class TextField : public Control {
   public:
-    explicit TextField(Alignment initialAlignment = Alignment::left) : Control(ControlKind::textField) {
+    explicit TextField(Alignment initialAlignment = Alignment::left, ControlKind ofField = ControlKind::textField)
+        : Control(ofField) {
         alignment = initialAlignment;
     }
 
@@ -76,7 +77,12 @@ class TextField : public Control {
     bool selectsBy(int code) const override;
     void selectAll() override { select(0, text_.size()); }
 
+    // Takes the user's last change back, and so on to the first one since the program wrote the text itself;
+    // whether there was one. Only where `keepsChanges`.
+    bool undo();
+
     bool multiLine = false;
+    bool keepsChanges = false;
     int pageLines = 20;    // of several lines: how far Page Up and Page Down go
     bool bare = false;     // of several lines: shown without scroll bar and caret
     bool shrinks = false;  // of one line: a text too long for the field is shown smaller, and never cut
@@ -99,8 +105,17 @@ class TextField : public Control {
     std::size_t behind(std::size_t position) const;
     void replace(std::size_t start, std::size_t length, TextView by);
     void changed(std::size_t unchangedPrefix);
+    void keepChange(std::size_t start, TextView old, TextView by);
+
+    // What the user has changed: `old` stood where `inserted` characters stand now.
+    struct Change {
+        std::size_t start;
+        Text old;
+        std::size_t inserted;
+    };
 
     Text text_;
+    std::vector<Change> changes_;
     std::size_t caret_ = 0;
     std::size_t selection_ = 0;
     bool anchoredAtEnd_ = false;  // the selection grew to the left: its start moves on

@@ -48,6 +48,7 @@ Control* Window::find(TextView controlName) const {
 }
 
 bool Window::setFocus(Control& control) {
+    ++focusWishes_;
     if (!visible || !control.shown() || !control.enabled) return false;
     if (focus_ == &control) return true;
     Control* const before = std::exchange(focus_, &control);

@@ -36,6 +36,9 @@ class Window {
     std::function<void()> onMouseMove;  // over the window itself
     std::function<void()> onActivate;   // it has become the one in use
 
+    // Where the Tab key goes, in this order; it does nothing where the focus is none of them.
+    std::vector<Control*> tabOrder;
+
     // What the edit keys do here, none of them inside the key road; without onPaste a text is typed as it is.
     std::function<void(TextView)> onPaste;
     std::function<void()> onCopy, onCut, onUndo;
@@ -72,6 +75,9 @@ class Window {
     // false, and changes nothing, where the window is not visible or the control hidden or disabled.
     bool setFocus(Control& control);
 
+    // How often the focus has been asked for.
+    unsigned long focusWishes() const { return focusWishes_; }
+
   private:
     // The pairs as the window keeps them.
     struct Pair {
@@ -88,6 +94,7 @@ class Window {
     std::vector<Control*> controls_;
     std::vector<Timer*> timers_;
     Control* focus_ = nullptr;
+    unsigned long focusWishes_ = 0;
 };
 
 }  // namespace zifferon

@@ -41,7 +41,7 @@ void EditCommands::wire() {
 }
 
 std::vector<TextField*> EditCommands::fieldsWithMenu() const {
-    std::vector<TextField*> fields = {&s.eingabe, &s.anzeige, &s.superdruck};
+    std::vector<TextField*> fields = {&s.eingabe, &s.anzeige, &s.superdruck, &pultform_.page.savefiles};
     for (TextField& cell : s.memo) fields.push_back(&cell);
     return fields;
 }
@@ -78,10 +78,10 @@ void EditCommands::cut() {
     keys_.stroke({keyCode::del});
 }
 
-// As the button does, wherever the focus is; the print copy has no undo.
+// As the button does, wherever the focus is, but for the print copy, which takes back what was typed there.
 void EditCommands::undo() {
-    if (pultform_.focus() == &s.superdruck || !s.zurück.enabled) return;
-    keys_.run(s.zurück.onClick);
+    if (pultform_.focus() == &s.superdruck) return keys_.run([this] { s.superdruck.undo(); });
+    if (s.zurück.visible && s.zurück.enabled) keys_.run(s.zurück.onClick);
 }
 
 std::vector<MenuEntry> EditCommands::menuOf(const TextField& field) {

@@ -14,7 +14,7 @@ void FirstActivation::activated() {
     s.messageTicks = 0;
     if (s.checkrnd.caption.empty()) s.checkrnd.caption = u"&RND 2";
     p.window.caption = programTitle;
-    p.window.stripes.hide();
+    p.window.page.stripes.hide();
     if (!std::exchange(done_, true)) begin();
 }
 

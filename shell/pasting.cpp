@@ -19,6 +19,8 @@ void Pasting::paste(TextView text) {
     const Control* const target = pultform_.focus();
     if (target == nullptr || text.empty()) return;
     if (target == &s.superdruck) return typeLines(text);
+    if (target == &pultform_.page.savefiles) return typeLines(text.substr(0, text.find_first_of(u"\r\n")));
+    if (pultform_.page.blende.visible) return s.calls->beep();
     const PastedFigures found = figuresOf(text, s.separators());
     const auto cell =
         std::find_if(s.memo.begin(), s.memo.end(), [&](const TextField& memo) { return &memo == target; });

@@ -13,7 +13,8 @@ class Pasting {
     // Both must outlive it.
     Pasting(Pultform& pultform, KeyRoad& keys) : pultform_(pultform), s(pultform.state), keys_(keys) {}
 
-    // Types into the field that has the focus. The print copy takes the text as it stands. A memory cell and
+    // Types into the field that has the focus. The print copy takes the text as it stands, a name the
+    // first line of it. A memory cell and
     // a percent prompt take one figure, the value prompts one each; an entry is replaced; a standing total is
     // closed first, so that a new calculation begins. Several figures are added up as a column, unless
     // operators stand between them; the last one waits for the user's key, and what went before is one step

@@ -8,10 +8,10 @@ Program::Program(Machine& ofTheProgram)
       messages(machine.boxes, pultform.state.language),
       settings(machine.files, messages),
       record(pultform.state),
-      quickFile(pultform.state, record, machine.files, messages),
       clipboard(pultform.state, machine.clipboard),
       cells(pultform.state, memory, pultform.memoLabels, pultform, messages),
       undo(pultform.state, memory, record, machine, messages),
+      quickFile(record, pultform.quick, undo, machine.files, messages),
       modes(pultform, machine.system),
       colours(pultform, help, settings),
       sounds(pultform, machine.sound),
@@ -20,7 +20,12 @@ Program::Program(Machine& ofTheProgram)
       tray(pultform, machine),
       ending(pultform, undo, tray, machine, messages),
       firstActivation({pultform, kopf, keys, undo, modes, colours, options, startUp, tray, machine.files}),
-      page(pultform.state, pultform.page, pultform.stripes, pultform, messages, settings),
+      files(pultform.page.Files, machine.files),
+      preview(pultform.state, pultform.page, files, pultform, machine, messages),
+      editor(pultform.state, pultform.page, pultform, messages),
+      stored({pultform.state, record, pultform.page, files, preview, undo, pultform, machine.files, messages}),
+      printOptions(pultform.page, preview, pultform, settings),
+      page({pultform.state, pultform.page, files, preview, printOptions, pultform, settings}),
       helpDesk(pultform, kopf, help, machine, messages, settings),
       actions({pultform, separator, undo, modes, colours, sounds, ending, settings, messages}),
       commands{pultform.state, memory, pultform, messages, actions},
@@ -32,6 +37,11 @@ Program::Program(Machine& ofTheProgram)
     options.wire();
     sounds.wire();
     cells.wire();
+    quickFile.wire();
+    preview.wire();
+    editor.wire();
+    stored.wire();
+    printOptions.wire();
     page.wire();
     helpDesk.wire();
     editing.wire();

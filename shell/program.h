@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "help/help_window.h"
+#include "page/print_copy_editor.h"
+#include "page/stored_calculations.h"
 #include "page/tape_page.h"
 #include "shell/command_actions.h"
 #include "shell/desk.h"
@@ -39,10 +41,10 @@ class Program {
     SeparatorState separator;
     MemoryState memory;
     CalculationRecord record;
-    QuickFile quickFile;
     ResultClipboard clipboard;
     MemoryPanel cells;
     Undo undo;
+    QuickFile quickFile;
     WindowModes modes;
     Colours colours;
     Sounds sounds;
@@ -51,6 +53,11 @@ class Program {
     Tray tray;
     Ending ending;
     FirstActivation firstActivation;
+    FileList files;
+    Preview preview;
+    PrintCopyEditor editor;
+    StoredCalculations stored;
+    PrintOptions printOptions;
     TapePage page;
     HelpDesk helpDesk;
     CommandActions actions;

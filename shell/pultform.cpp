@@ -9,7 +9,7 @@ Pultform::Pultform() {
     layOutPultform(*this);
     add(Timer2, u"Timer2");
     add(minitimer, u"minitimer");
-    add(stripes.timerraster, u"timerraster");
+    add(page.stripes.timerraster, u"timerraster");
     add(state.errortimer, u"errortimer");
     add(state.messtimer, u"messtimer");
     state.eingabeForeColor = state.eingabe.foreColour;

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "core/calculator_state.h"
-#include "page/stripes.h"
-#include "page/tape_page.h"
+#include "page/page_controls.h"
+#include "page/quick_file.h"
 #include "platform/window.h"
 
 namespace zifferon {
@@ -30,15 +30,8 @@ class Pultform : public Window {
     Control Command3{ControlKind::button}, Hilfe{ControlKind::button}, cmdexit{ControlKind::button};
     Timer Timer2, minitimer;
     Control nixspez{ControlKind::button};  // the blind button beside spezrnd
-    TapePageControls page;
-    Stripes stripes;
-
-    // Of the page: stored calculations, printing, and its options. All of them wait hidden.
-    Control Frame5{ControlKind::frame}, laden{ControlKind::button}, killfile{ControlKind::button};
-    Control Frame6{ControlKind::frame}, Speichern{ControlKind::button};
-    Control editordruck{ControlKind::button}, optbtn{ControlKind::button};
-    Control Frame8{ControlKind::frame}, Label1{ControlKind::label}, Label2{ControlKind::label};
-    Control standardprint{ControlKind::button}, cmdkopf{ControlKind::button}, back{ControlKind::button};
+    QuickButtons quick;
+    PageControls page;
 };
 
 // Adds every control with its name, place, colours, and texts in both languages.

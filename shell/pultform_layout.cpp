@@ -17,6 +17,8 @@ constexpr Colour key{214, 214, 214};
 constexpr Colour panel{0, 0, 64};
 constexpr Colour panelText{192, 192, 255};
 constexpr Colour lightGrey{224, 224, 224};
+constexpr Colour yellow{255, 255, 0};
+constexpr Colour paleYellow{255, 255, 192};
 
 struct Style {
     Colour foreColour, backColour;
@@ -34,7 +36,12 @@ constexpr Style message{panelText, panel, 10.5, true};
 constexpr Style entryLine{panel, lightGrey, 13.5, true};
 constexpr Style stateSign{panelText, panel, 13.5, true};
 constexpr Style paper{black, white, 10, true};
+constexpr Style list{black, white, 9};
 constexpr Style printCopy{black, white, 9.75, true, u"Courier New"};
+constexpr Style heading{black, desk, 9, true};
+constexpr Style previewName{black, yellow, 9, true};
+constexpr Style previewText{black, paleYellow, 8.25, false, u"Courier New"};
+constexpr Style previewDate{black, lightGrey};
 constexpr Style stripe{lightGrey, lightGrey};
 
 // A control, and all that was designed for it. What has one text only says it in both languages.
@@ -172,6 +179,16 @@ std::vector<Row> desktop(Pultform& w) {
          .place = {5850, 3480, 2025, 315},
          .caption = {u"immer im &Vordergrund", u"Always &visible"},
          .frame = &w.Frame3},
+        {.control = w.quick.Save,
+         .name = u"Save",
+         .place = {5700, 4080, 1110, 555},
+         .style = onKey,
+         .caption = {u"Quick&save"}},
+        {.control = w.quick.load,
+         .name = u"load",
+         .place = {6885, 4080, 1110, 555},
+         .style = onKey,
+         .caption = {u"Quick&load "}},
         {.control = w.page.edit,
          .name = u"edit",
          .place = {5700, 4710, 1110, 555},
@@ -193,6 +210,12 @@ std::vector<Row> printEditPage(Pultform& w) {
          .name = u"blendevorschau",
          .place = {120, 60, 7860, 345},
          .visible = false},
+        {.control = w.page.vorschaulabel,
+         .name = u"vorschaulabel",
+         .place = {240, 90, 3600, 285},
+         .style = heading,
+         .caption = {u"DRUCKVORSCHAU"},
+         .frame = &w.page.blendevorschau},
         {.control = w.page.insertmode,
          .name = u"insertmode",
          .place = {6200, 90, 1780, 285},
@@ -216,88 +239,107 @@ std::vector<Row> printEditPage(Pultform& w) {
          .style = onKey,
          .caption = {u"&Zurück", u"&Cancel"},
          .frame = &w.page.Frame7},
-        {.control = w.Frame5,
+        {.control = w.page.Frame5,
          .name = u"Frame5",
          .place = {240, 5280, 3780, 2190},
          .caption = {u"Rechnung laden / löschen", u"Load calculation / delete calculation"},
+         .frame = &w.page.Frame7},
+        {.control = w.page.Files,
+         .name = u"Files",
+         .place = {375, 5565, 2190, 1770},
+         .style = list,
          .frame = &w.page.Frame7,
-         .visible = false},
-        {.control = w.laden,
+         .visible = false,
+         .spoken = {u"Gespeicherte Rechnungen", u"Stored calculations"}},
+        {.control = w.page.laden,
          .name = u"laden",
          .place = {2700, 5565, 1185, 390},
          .style = onKey,
          .caption = {u"Lade&n", u"L&oad"},
          .frame = &w.page.Frame7,
          .visible = false},
-        {.control = w.killfile,
+        {.control = w.page.killfile,
          .name = u"killfile",
          .place = {2700, 6060, 1185, 390},
          .style = onKey,
          .caption = {u"L&öschen", u"&Delete"},
-         .frame = &w.page.Frame7,
-         .visible = false},
-        {.control = w.Frame6,
+         .frame = &w.page.Frame7},
+        {.control = w.page.Frame6,
          .name = u"Frame6",
          .place = {4140, 5280, 3720, 990},
          .caption = {u"Rechnung speichern", u"Save calculation"},
+         .frame = &w.page.Frame7},
+        {.control = w.page.savefiles,
+         .name = u"savefiles",
+         .place = {4275, 5655, 2130, 390},
+         .style = paper,
          .frame = &w.page.Frame7,
-         .visible = false},
-        {.control = w.Speichern,
+         .visible = false,
+         .spoken = {u"Name der Rechnung", u"Name of the calculation"}},
+        {.control = w.page.Speichern,
          .name = u"Speichern",
          .place = {6540, 5655, 1185, 390},
          .style = onKey,
          .caption = {u"S&peichern", u"S&ave"},
          .frame = &w.page.Frame7,
          .visible = false},
-        {.control = w.editordruck,
+        {.control = w.page.editordruck,
          .name = u"editordruck",
          .place = {4140, 6405, 1815, 1065},
          .style = onKey,
          .caption = {u"D&RUCKEN", u"&Print"},
          .frame = &w.page.Frame7,
          .visible = false},
-        {.control = w.optbtn,
+        {.control = w.page.optbtn,
          .name = u"optbtn",
          .place = {6090, 6405, 1770, 480},
          .style = onKey,
          .caption = {u"Druck&optionen", u"Pri&nt options"},
-         .frame = &w.page.Frame7,
-         .visible = false},
-        {.control = w.Frame8,
+         .frame = &w.page.Frame7},
+        {.control = w.page.Frame8,
          .name = u"Frame8",
          .place = {120, 5280, 7860, 2295},
          .caption = {u"Druckoptionen", u"Print options"},
          .visible = false},
-        {.control = w.Label1,
+        {.control = w.page.Label1,
          .name = u"Label1",
          .place = {300, 5610, 3600, 255},
          .caption = {u"Schriftart für Ausdruck:", u"Font for printing:"},
-         .frame = &w.Frame8},
-        {.control = w.Label2,
+         .frame = &w.page.Frame8},
+        {.control = w.page.druckcomb,
+         .name = u"druckcomb",
+         .place = {300, 5895, 3600, 330},
+         .style = list,
+         .frame = &w.page.Frame8,
+         .spoken = {u"Schriftart für Ausdruck", u"Font for printing"}},
+        {.control = w.page.Label2,
          .name = u"Label2",
          .place = {4200, 5610, 3600, 255},
          .caption = {u" Zifferon PRO-Drucker:", u" Zifferon PRO printer:"},
          .changedCaption = {u" Zifferon PRO Drucker:", u" Zifferon PRO printer:"},
-         .frame = &w.Frame8},
-        {.control = w.standardprint,
+         .frame = &w.page.Frame8,
+         .visible = false},
+        {.control = w.page.standardprint,
          .name = u"standardprint",
          .place = {4200, 6360, 3600, 435},
          .style = onKey,
          .caption = {u"Als Standarddrucker für &Zifferon PRO definieren",
                      u"Define as standard printer for &Zifferon PRO"},
-         .frame = &w.Frame8},
-        {.control = w.cmdkopf,
+         .frame = &w.page.Frame8,
+         .visible = false},
+        {.control = w.page.cmdkopf,
          .name = u"cmdkopf",
          .place = {300, 6360, 3600, 435},
          .style = onKey,
          .caption = {u"&Briefkopf bearbeiten", u"Edit Lette&rhead"},
-         .frame = &w.Frame8},
-        {.control = w.back,
+         .frame = &w.page.Frame8,
+         .visible = false},
+        {.control = w.page.back,
          .name = u"back",
          .place = {5985, 6990, 1815, 435},
          .style = onKey,
          .caption = {u"&Zurück", u"&Cancel"},
-         .frame = &w.Frame8},
+         .frame = &w.page.Frame8},
     };
 }
 
@@ -326,12 +368,36 @@ void addMemoryCells(Pultform& w) {
 void addStripes(Pultform& w) {
     for (int i = 0; i < 19; ++i) {
         const int line = i == 17 ? 18 : i == 18 ? 17 : i;
-        add(w, {.control = w.stripes.raster[static_cast<std::size_t>(i)],
+        add(w, {.control = w.page.stripes.raster[static_cast<std::size_t>(i)],
                 .name = fromUtf8("raster" + std::to_string(i)),
                 .place = {240, 660 + 240 * line, 7300, 15},
                 .style = stripe,
                 .visible = false});
     }
+}
+
+// They lie over the stripes.
+std::vector<Row> previewBoxes(Pultform& w) {
+    return {
+        {.control = w.page.txtvorschaulabel,
+         .name = u"txtvorschaulabel",
+         .place = {430, 810, 6960, 285},
+         .style = previewName,
+         .visible = false,
+         .spoken = {u"Name der Vorschau", u"Name of the preview"}},
+        {.control = w.page.txtvorschau,
+         .name = u"txtvorschau",
+         .place = {430, 1080, 6960, 3300},
+         .style = previewText,
+         .visible = false,
+         .spoken = {u"Vorschau", u"Preview"}},
+        {.control = w.page.txtvorschau2,
+         .name = u"txtvorschau2",
+         .place = {430, 4370, 6960, 315},
+         .style = previewDate,
+         .visible = false,
+         .spoken = {u"Datum der Vorschau", u"Date of the preview"}},
+    };
 }
 
 }  // namespace
@@ -342,6 +408,7 @@ void layOutPultform(Pultform& window) {
     addMemoryCells(window);
     for (const Row& row : printEditPage(window)) add(window, row);
     addStripes(window);
+    for (const Row& row : previewBoxes(window)) add(window, row);
 }
 
 }  // namespace zifferon

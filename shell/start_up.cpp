@@ -68,7 +68,6 @@ void StartUp::run() {
     readFrame();
     showLoadingWindow();
     quickFile_.restore();
-    if (s.zwischen.empty()) s.zwischen.setText(u"0");
     restoreLetterhead();
 }
 

@@ -146,6 +146,23 @@ void gatherSwitches(CalculationRecord& record) {
     record.recordClipboard = switchOf(s.clipcheck.ticked());
 }
 
+void gatherRounding(CalculationRecord& record) {
+    const CheckBox& selector = record.state.checkrnd;
+    record.recordRoundingTick = switchOf(selector.ticked());
+    record.recordRoundingCaption = selector.caption;
+}
+
+Text printCopyOf(std::string_view bytes, Separators separators) {
+    constexpr int beforePrintCopy = 9;
+    RecordReader reader(bytes);
+    for (int i = 0; i < beforePrintCopy; ++i) reader.tagged();
+    const TaggedBytes found = reader.tagged();
+    if (!found.isText()) return found.value().toText(separators);
+    Text copy(found.content.size(), u'\0');
+    decodeWindows1252(found.content, copy.data());
+    return copy;
+}
+
 void decodeRecord(std::string_view bytes, CalculationRecord& record) {
     visitFields(std::as_const(record), FieldChecker{RecordReader(bytes)});
     visitFields(record, FieldReader{RecordReader(bytes), record.state.separators()});
@@ -153,7 +170,7 @@ void decodeRecord(std::string_view bytes, CalculationRecord& record) {
 
 void writeRecord(Files& files, const std::string& path, const CalculationRecord& record) {
     const EncodedRecord encoded(record);
-    files.write(path, encoded.pieces());
+    files.exchange(path, encoded.pieces());
 }
 
 void readRecord(Files& files, const std::string& path, CalculationRecord& record) {

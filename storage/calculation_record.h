@@ -62,13 +62,20 @@ void gatherRecord(CalculationRecord& record);
 // Takes recordAlwaysOnTop, recordSound and recordClipboard from the check boxes.
 void gatherSwitches(CalculationRecord& record);
 
+// Takes recordRoundingTick and recordRoundingCaption from checkrnd.
+void gatherRounding(CalculationRecord& record);
+
+// The print copy in a record's bytes, and nothing else of them; empty where they end before it. Throws
+// RecordFailure.
+Text printCopyOf(std::string_view bytes, Separators separators);
+
 // Decodes the fields; tagged ones behind the end become nothing, the others stay as they were. All but the
 // tapes come under the separators in use, also what is no text in the place of one. Throws RecordFailure, and
 // then the record is as before.
 void decodeRecord(std::string_view bytes, CalculationRecord& record);
 
-// Writes the record from the start of the file; what a longer file held behind it stays, and nothing reads
-// it. Throws FileFailure.
+// Exchanges the file for one with the record; what a longer file held behind it stays, and nothing reads it.
+// Throws FileFailure, and then the file is as before.
 void writeRecord(Files& files, const std::string& path, const CalculationRecord& record);
 
 // Reads the file into the record; an absent file is created and reads as an empty one. Throws FileFailure or

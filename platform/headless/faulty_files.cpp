@@ -29,6 +29,13 @@ void FaultyFiles::write(const std::string& name, std::span<const std::string_vie
     files_.write(name, pieces);
 }
 
+void FaultyFiles::exchange(const std::string& name, std::span<const std::string_view> pieces) {
+    operation();
+    growth();
+    files_.exchange(name, pieces);
+    if (onExchanged) onExchanged(name);
+}
+
 void FaultyFiles::replace(const std::string& name, std::string_view content) {
     operation();
     growth();

@@ -1,7 +1,7 @@
 // Files that fail when told to, over files that do not.
 #pragma once
 
-#include <optional>
+#include <functional>
 
 #include "platform/files.h"
 
@@ -11,6 +11,9 @@ class FaultyFiles : public Files {
   public:
     // `files` must outlive it.
     explicit FaultyFiles(Files& files) : files_(files) {}
+
+    // Runs behind each exchange that has been made.
+    std::function<void(const std::string& name)> onExchanged;
 
     // Everything that would change a file or folder fails as write-protected.
     void writable(bool yes) { writable_ = yes; }
@@ -27,9 +30,11 @@ class FaultyFiles : public Files {
     using Files::write;
 
     bool FileExists(std::string_view name) override { return files_.FileExists(name); }
+    bool isFile(const std::string& name) override { return files_.isFile(name); }
     FileContent read(const std::string& name) override;
     FileContent readOrCreate(const std::string& name) override;
     void write(const std::string& name, std::span<const std::string_view> pieces) override;
+    void exchange(const std::string& name, std::span<const std::string_view> pieces) override;
     void replace(const std::string& name, std::string_view content) override;
     void remove(const std::string& name) override;
     void removeAll(const std::string& folder, const std::string& pattern) override;

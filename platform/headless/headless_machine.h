@@ -2,6 +2,7 @@
 // that would be seen and heard, one line for each event.
 #pragma once
 
+#include <chrono>
 #include <deque>
 #include <exception>
 #include <functional>
@@ -59,6 +60,12 @@ class HeadlessMachine : public Boxes,
     // key road of its window.
     void wait(std::int64_t milliseconds, Window& window, KeyRoad& keys);
 
+    // The clock begins at that moment, and wait moves it.
+    void setClock(std::chrono::system_clock::time_point now) {
+        clock_ = now - std::chrono::milliseconds(now_);
+    }
+    std::chrono::system_clock::time_point now() const { return clock_ + std::chrono::milliseconds(now_); }
+
     // The window that is in use where no modal one is open: when the last of those closes, it is told.
     void setMainWindow(Window* window) { mainWindow_ = window; }
 
@@ -115,6 +122,7 @@ class HeadlessMachine : public Boxes,
     unsigned long boxesShown_ = 0;
     bool trayIcon_ = false;
     std::int64_t now_ = 0;  // milliseconds
+    std::chrono::system_clock::time_point clock_;  // when they began
     std::unordered_map<const Timer*, Due> due_;
     Window* mainWindow_ = nullptr;
     std::vector<Window*> shown_;

@@ -86,9 +86,10 @@ void ControlView::refreshColours() {
 }
 
 bool ControlView::eventFilter(QObject* surface, QEvent* event) {
-    // Buttons and check boxes need the mouse for their own look, and tell of their clicks themselves, whether
+    // Buttons, check boxes and combo boxes need the mouse for their own look, and tell of their clicks themselves, whether
     // these come by mouse or by a screen reader. Nothing else does: an event ends here.
-    const bool button = control_.kind == ControlKind::button || control_.kind == ControlKind::checkBox;
+    const bool button = control_.kind == ControlKind::button || control_.kind == ControlKind::checkBox ||
+                        control_.kind == ControlKind::comboBox;
     const auto position = [event] { return static_cast<QMouseEvent*>(event)->position().toPoint(); };
     switch (event->type()) {
         case QEvent::MouseButtonPress:
@@ -96,6 +97,7 @@ bool ControlView::eventFilter(QObject* surface, QEvent* event) {
             if (control_.menu && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) return true;
             clickPending_ = !button && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
             form_.act([&] {
+                mousePressing(position());
                 mousePress(form_.window(), form_.keys(), control_);
                 mousePressed(position());
             });

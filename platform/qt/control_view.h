@@ -36,6 +36,9 @@ class ControlView : public QObject {
     // Caption, text or tick, whatever the kind of control shows beside the properties that all have.
     virtual void refreshContent() {}
 
+    // What a press at `position` selects before any handler learns of it.
+    virtual void mousePressing(QPoint) {}
+
     // What a press at `position`, and a drag from the last press to it, mean to this kind of control.
     virtual void mousePressed(QPoint) {}
     virtual void mouseDragged(QPoint) {}

@@ -125,7 +125,10 @@ QWidget* FormView::topmost() {
 }
 
 void FormView::press(Control& control) {
-    run([&] { control.press(); });
+    run([&] {
+        if (control.takesFocus) window_.setFocus(control);
+        control.press();
+    });
 }
 
 void FormView::act(const std::function<void()>& deed) {

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDateTime>
 #include <QElapsedTimer>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
@@ -87,6 +89,17 @@ void QtClipboard::clear() { QGuiApplication::clipboard()->clear(); }
 void QtClipboard::setText(TextView text) { QGuiApplication::clipboard()->setText(toQString(text)); }
 
 Text QtClipboard::text() const { return QGuiApplication::clipboard()->text().toStdU16String(); }
+
+// Its short forms, but with the whole year and the seconds.
+Text QtSystem::shortDateTime(std::chrono::system_clock::time_point moment) const {
+    const QLocale locale = QLocale::system();
+    QString date = locale.dateFormat(QLocale::ShortFormat);
+    if (!date.contains(QStringLiteral("yyyy"))) date.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
+    const QString time = locale.timeFormat(QLocale::ShortFormat).replace(QStringLiteral("mm"), QStringLiteral("mm:ss"));
+    const auto sinceEpoch = std::chrono::duration_cast<std::chrono::milliseconds>(moment.time_since_epoch());
+    const QDateTime local = QDateTime::fromMSecsSinceEpoch(sinceEpoch.count());
+    return locale.toString(local, date + QChar(QChar::Space) + time).toStdU16String();
+}
 
 void QtSound::beep() { QApplication::beep(); }
 

@@ -31,6 +31,12 @@ class QtSound : public Sound {
     SoundPlayer player_;
 };
 
+// Tells dates as the desktop does.
+class QtSystem : public PosixSystem {
+  public:
+    Text shortDateTime(std::chrono::system_clock::time_point moment) const override;
+};
+
 class QtProcess : public Process {
   public:
     [[noreturn]] void end() override;
@@ -45,7 +51,7 @@ class QtMachine {
     PosixFiles files_;
     QtWindows windows_{sound_};
     QtProcess process_;
-    PosixSystem system_;
+    QtSystem system_;
 
   public:
     QtDesktop desktop;

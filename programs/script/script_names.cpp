@@ -54,6 +54,11 @@ std::string remembered(const Program& p) {
     return render(p.memory.*member);
 }
 
+template <auto member>
+std::string recorded(const Program& p) {
+    return render(p.record.*member);
+}
+
 std::string render(int value) { return std::to_string(value); }
 
 // As one number, red in its lowest byte.
@@ -139,16 +144,42 @@ const std::unordered_map<std::string_view, Variable>& variables() {
         {"trayRestoreLeft", [](const Program& p) { return render(p.tray.restorePlace().left); }},
         {"trayRestoreTop", [](const Program& p) { return render(p.tray.restorePlace().top); }},
         {"layoutCyclePending", [](const Program& p) { return render(p.tray.layoutCyclePending()); }},
-        {"stripesOff", [](const Program& p) { return render(p.pultform.stripes.stripesOff()); }},
+        {"stripesOff", [](const Program& p) { return render(p.pultform.page.stripes.stripesOff()); }},
         {"savedAlwaysOnTop", [](const Program& p) { return render(int{p.pultform.page.savedAlwaysOnTop}); }},
-        {"overwriteSuspended", [](const Program& p) { return render(p.page.overwriteSuspended()); }},
-        {"insertNoticeGiven", [](const Program& p) { return render(p.page.insertNoticeGiven()); }},
+        {"overwriteSuspended", [](const Program& p) { return render(p.editor.overwriteSuspended()); }},
+        {"caretLine", [](const Program& p) { return render(p.editor.caretLine()); }},
+        {"caretColumn", [](const Program& p) { return render(p.editor.caretColumn()); }},
+        {"fileListEmpty", [](const Program& p) { return render(p.files.empty()); }},
+        {"fileListIndex",
+         [](const Program& p) {
+             return p.files.keptRow() == 0 ? "nothing" : "int " + render(p.files.keptRow());
+         }},
+        {"selectedFileName", [](const Program& p) { return render(p.files.pickedName()); }},
+        {"selectedFileDate", [](const Program& p) { return render(p.preview.selectedFileDate()); }},
+        {"printFontCode", [](const Program& p) { return render(double{p.printOptions.printFontCode()}); }},
+        {"recordAlwaysOnTop", recorded<&CalculationRecord::recordAlwaysOnTop>},
+        {"recordSound", recorded<&CalculationRecord::recordSound>},
+        {"recordClipboard", recorded<&CalculationRecord::recordClipboard>},
+        {"recordRoundingTick", recorded<&CalculationRecord::recordRoundingTick>},
+        {"recordRoundingCaption", recorded<&CalculationRecord::recordRoundingCaption>},
+        {"insertNoticeGiven", [](const Program& p) { return render(p.editor.insertNoticeGiven()); }},
     };
     return table;
 }
 
-const TextField* fieldOf(const Control& control) {
-    return control.kind == ControlKind::textField ? &static_cast<const TextField&>(control) : nullptr;
+// All rows as one text.
+Text listOf(const std::vector<Text>& rows) {
+    Text list;
+    for (const Text& row : rows) list += (list.empty() ? u"" : u"\n") + row;
+    return list;
+}
+
+// The properties of lists and combo boxes, told by their rows.
+std::optional<std::string> propertyOf(const std::vector<Text>& rows, int row, std::string_view property) {
+    if (property == "rows") return std::to_string(rows.size());
+    if (property == "row") return std::to_string(row);
+    if (property == "list") return render(listOf(rows));
+    return std::nullopt;
 }
 
 std::optional<std::string> propertyOf(const Control& control, std::string_view property) {
@@ -164,7 +195,13 @@ std::optional<std::string> propertyOf(const Control& control, std::string_view p
     if (control.kind == ControlKind::checkBox && property == "ticked") {
         return render(static_cast<const CheckBox&>(control).ticked());
     }
-    if (const TextField* const field = fieldOf(control)) {
+    if (const auto* const list = dynamic_cast<const ListBox*>(&control)) {
+        return propertyOf(list->rows(), list->row(), property);
+    }
+    if (const auto* const combo = dynamic_cast<const ComboBox*>(&control)) {
+        if (const auto found = propertyOf(combo->rows, combo->row(), property)) return found;
+    }
+    if (const auto* const field = dynamic_cast<const TextField*>(&control)) {
         if (property == "text") return render(field->text());
         if (property == "caret") return std::to_string(field->caret());
         if (property == "locked") return render(field->locked);
@@ -174,7 +211,7 @@ std::optional<std::string> propertyOf(const Control& control, std::string_view p
 }
 
 std::string mainValueOf(const Control& control) {
-    const TextField* const field = fieldOf(control);
+    const auto* const field = dynamic_cast<const TextField*>(&control);
     return render(field != nullptr ? field->text() : control.caption);
 }
 

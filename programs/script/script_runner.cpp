@@ -1,6 +1,7 @@
 #include "programs/script/script_runner.h"
 
 #include <algorithm>
+#include <ctime>
 #include <map>
 #include <string>
 
@@ -25,6 +26,8 @@ class BeginsAnew {};
 
 ScriptRunner::ScriptRunner(std::ostream& out, std::ostream& errors)
     : out_(out), errors_(errors), headless_(out), files_(disk_), machine_(headless_.with(files_, system_)) {
+    files_.onExchanged = [this](const std::string& name) { disk_.stamp(name, headless_.now()); };
+    setClock("2026-11-22 08:30:00");
     headless_.whileModal = [this](const Window& modal) { stayIn(modal); };
 }
 
@@ -133,6 +136,7 @@ bool ScriptRunner::runKeys(const std::string& command, ScriptLine& line) {
 }
 
 bool ScriptRunner::runMouse(const std::string& command, ScriptLine& line) {
+    if (command == "choose") return choose(line), true;
     if (command == "focus" || command == "caret" || command == "select") return select(command, line), true;
     using Action = void (ScriptRunner::*)(Control&);
     static const std::map<std::string, Action> actions = {{"click", &ScriptRunner::click},
@@ -143,9 +147,38 @@ bool ScriptRunner::runMouse(const std::string& command, ScriptLine& line) {
     const auto action = actions.find(command);
     if (action == actions.end()) return false;
     Control& target = control(line);
-    const bool inUse = windowOf(target, program()) == &window();
-    if (inUse && isReachable(window(), target)) (this->*action->second)(target);
+    const std::optional<std::int64_t> row = line.atEnd() ? std::nullopt : std::optional(line.number());
+    line.expectEnd();
+    if (!inReach(target)) return true;
+    if (row) pointAt(target, *row);
+    (this->*action->second)(target);
     return true;
+}
+
+bool ScriptRunner::inReach(const Control& target) {
+    return windowOf(target, program()) == &window() && isReachable(window(), target);
+}
+
+// The mouse is on a row of a list, from 1, or on its empty part, which selects none.
+void ScriptRunner::pointAt(Control& target, std::int64_t row) {
+    auto* const list = dynamic_cast<ListBox*>(&target);
+    if (list == nullptr) throw MalformedScript("no list");
+    if (!list->select(static_cast<int>(row))) list->select(0);
+}
+
+// By a row from 1, or by its text; of a list 0 selects none, without a click.
+void ScriptRunner::choose(ScriptLine& line) {
+    Control& target = control(line);
+    auto* const list = dynamic_cast<ListBox*>(&target);
+    auto* const combo = dynamic_cast<ComboBox*>(&target);
+    if (list == nullptr && combo == nullptr) throw MalformedScript("no list and no combo box");
+    const std::vector<Text>& rows = list != nullptr ? list->rows() : combo->rows;
+    const auto rowOf = [&](const Text& text) { return std::find(rows.begin(), rows.end(), text) - rows.begin() + 1; };
+    const auto row = static_cast<int>(line.atQuote() ? rowOf(line.quotedText()) : line.number());
+    line.expectEnd();
+    if (!inReach(target)) return;
+    if (row == 0 && list != nullptr) list->select(0);
+    if (row != 0) keys().run([&] { list != nullptr ? list->choose(row) : combo->choose(row); });
 }
 
 void ScriptRunner::pressByAccessKey(TextView controlName) {
@@ -234,6 +267,7 @@ void ScriptRunner::setMachine(ScriptLine& line) {
     const std::string key = line.word();
     if (key == "writable") return files_.writable(line.word() != "no");
     if (key == "diskfull") return files_.diskFull(line.word() == "yes");
+    if (key == "clock") return setClock(toUtf8(line.quotedText()));
     if (key == "caption") {
         system_.caption = static_cast<int>(line.number());
         return;
@@ -241,6 +275,17 @@ void ScriptRunner::setMachine(ScriptLine& line) {
     const auto answer = systemAnswers.find(key);
     if (answer == systemAnswers.end()) throw MalformedScript("unknown property of the machine: " + key);
     system_.*answer->second = toUtf8(line.quotedText());
+}
+
+// Local time.
+void ScriptRunner::setClock(const std::string& moment) {
+    std::tm time{};
+    time.tm_isdst = -1;
+    if (::strptime(moment.c_str(), "%Y-%m-%d %H:%M:%S", &time) == nullptr) {
+        throw MalformedScript("no moment: " + moment);
+    }
+    clock_ = std::chrono::system_clock::from_time_t(std::mktime(&time));
+    headless_.setClock(clock_);
 }
 
 void ScriptRunner::start(ScriptLine& line) {
@@ -254,6 +299,7 @@ void ScriptRunner::beginAnew() {
     if (!folder_.take(longestWaitForTheFolder)) throw MalformedScript("another program runs in this folder");
     program_.reset();
     headless_.beginAnew();
+    headless_.setClock(clock_);
     program_ = std::make_unique<Program>(machine_);
     headless_.setMainWindow(&program_->pultform);
 }
@@ -311,10 +357,10 @@ void ScriptRunner::select(const std::string& command, ScriptLine& line) {
         if (target.takesFocus) keys().run([&] { window().setFocus(target); });
         return;
     }
-    if (target.kind != ControlKind::textField) throw MalformedScript("no text field");
+    auto* const field = dynamic_cast<TextField*>(&target);
+    if (field == nullptr) throw MalformedScript("no text field");
     const auto start = static_cast<std::size_t>(line.number());
-    static_cast<TextField&>(target).select(start,
-                                           command == "select" ? static_cast<std::size_t>(line.number()) : 0);
+    field->select(start, command == "select" ? static_cast<std::size_t>(line.number()) : 0);
 }
 
 void ScriptRunner::show(std::string_view name) {

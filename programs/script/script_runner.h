@@ -1,7 +1,9 @@
 // Runs a key script on the program without a window: one line is one command.
 #pragma once
 
+#include <chrono>
 #include <functional>
+
 #include <istream>
 #include <memory>
 #include <ostream>
@@ -41,6 +43,9 @@ class ScriptRunner {
     void doubleClick(Control& target);
     void mouseDown(Control& target);
     void mouseUp(Control& target);
+    void choose(ScriptLine& line);
+    static void pointAt(Control& target, std::int64_t row);
+    bool inReach(const Control& target);
     void hover(Control& target);
     void pressByAccessKey(TextView controlName);
     bool runMouse(const std::string& command, ScriptLine& line);
@@ -48,6 +53,7 @@ class ScriptRunner {
     bool runLook(const std::string& command, ScriptLine& line);
 
     void setMachine(ScriptLine& line);
+    void setClock(const std::string& moment);
     void start(ScriptLine& line);
     void fresh(ScriptLine& line);
     void beginAnew();
@@ -77,6 +83,7 @@ class ScriptRunner {
     FaultyFiles files_;
     Machine machine_;
     std::unique_ptr<Program> program_;
+    std::chrono::system_clock::time_point clock_;  // as the last line told it
     std::istream* script_ = nullptr;
     std::string line_;
     std::size_t lineNumber_ = 0;

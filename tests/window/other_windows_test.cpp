@@ -137,7 +137,7 @@ TEST_F(WindowTest, TheRuledLinesLeaveTheMouseToThePrintCopy) {
     click(program.pultform.page.edit, {10, 10});
     ASSERT_TRUE(comesTrue([&] { return state().superdruck.visible; }));
     EXPECT_TRUE(comesTrue([&] { return program.pultform.focus() == &state().superdruck; }));
-    const Control& line = program.pultform.stripes.raster[2];
+    const Control& line = program.pultform.page.stripes.raster[2];
     ASSERT_TRUE(line.visible);
     click(line, {300, 0});
     EXPECT_TRUE(comesTrue([&] { return state().superdruck.caret() > 0; }));

@@ -94,8 +94,9 @@ Text QtClipboard::text() const { return QGuiApplication::clipboard()->text().toS
 Text QtSystem::shortDateTime(std::chrono::system_clock::time_point moment) const {
     const QLocale locale = QLocale::system();
     QString date = locale.dateFormat(QLocale::ShortFormat);
+    QString time = locale.timeFormat(QLocale::ShortFormat);
     if (!date.contains(QStringLiteral("yyyy"))) date.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
-    const QString time = locale.timeFormat(QLocale::ShortFormat).replace(QStringLiteral("mm"), QStringLiteral("mm:ss"));
+    if (!time.contains(QStringLiteral("ss"))) time.replace(QStringLiteral("mm"), QStringLiteral("mm:ss"));
     const auto sinceEpoch = std::chrono::duration_cast<std::chrono::milliseconds>(moment.time_since_epoch());
     const QDateTime local = QDateTime::fromMSecsSinceEpoch(sinceEpoch.count());
     return locale.toString(local, date + QChar(QChar::Space) + time).toStdU16String();

@@ -155,9 +155,53 @@ TEST_F(Editing, theTapeAndThePrintCopyTakeAPasteInTheirWay) {
     paste(u"5");
     EXPECT_EQ(entry(), "5");
     program_.pultform.page.edit.click();
+    program_.pultform.setFocus(state().superdruck);
     paste(u"Total: 5\tEUR\r\n3 x\n");
     EXPECT_EQ(state().superdruck.text(), u"Total: 5 EUR\r\n3 x\r\n");
     EXPECT_EQ(beeps(), 0);
+}
+
+TEST_F(Editing, aNameTakesOneLineAndAButtonNothing) {
+    PageControls& page = program_.pultform.page;
+    page.edit.click();
+    paste(u"Miete\tMai\r\nJuni");
+    EXPECT_EQ(page.savefiles.text(), u"Miete Mai");
+    EXPECT_EQ(beeps(), 0);
+    program_.pultform.setFocus(page.laden);
+    paste(u"5+6");
+    EXPECT_EQ(beeps(), 1);
+    EXPECT_EQ(state().anzeige.text(), u"");
+    EXPECT_EQ(entry(), "");
+}
+
+TEST_F(Editing, thePrintCopyTakesBackWhatWasTypedThere) {
+    TextField& copy = state().superdruck;
+    type(u"5+");
+    const Text calculated = copy.text();
+    program_.pultform.page.edit.click();
+    program_.pultform.setFocus(copy);
+    copy.setCaret(2);
+    type(u"Miete\rMai");
+    copy.select(2, 3);
+    type(u"\b");
+    EXPECT_EQ(copy.text().substr(0, 9), u"\r\nte\r\nMai");
+    undo();
+    EXPECT_EQ(copy.selectionLength(), 3U);
+    undo();
+    undo();
+    EXPECT_EQ(copy.text(), calculated);
+    undo();
+    EXPECT_EQ(copy.text(), calculated);
+    EXPECT_EQ(state().undoCounter, 1);
+    // the calculator's own lines are no change of the user's
+    type(u"A");
+    program_.pultform.page.leave.click();
+    type(u"3+");
+    program_.pultform.page.edit.click();
+    program_.pultform.setFocus(copy);
+    const Text now = copy.text();
+    undo();
+    EXPECT_EQ(copy.text(), now);
 }
 
 TEST_F(Editing, tenThousandFiguresArriveAll) {

@@ -3,8 +3,10 @@
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <functional>
 #include <optional>
 
@@ -91,10 +93,57 @@ TEST_F(FilesTest, aFileThatFindsNoMoreRoomIsAFailure) {
     EXPECT_EQ(troubleIn([&] { files.write("a", pieces); }), FileTrouble::noSpace);
     folder.put("quick", "the former content");
     EXPECT_EQ(troubleIn([&] { files.write("quick", pieces); }), FileTrouble::noSpace);
+    EXPECT_EQ(troubleIn([&] { files.exchange("quick", pieces); }), FileTrouble::noSpace);
     ::setrlimit(RLIMIT_FSIZE, &before);
     ::signal(SIGXFSZ, oldHandler);
     EXPECT_EQ(folder.bytes("a"), std::string(1000, 'x'));
     EXPECT_EQ(folder.bytes("quick"), "the former content");
+    EXPECT_FALSE(folder.has(".quick.new"));
+}
+
+TEST_F(FilesTest, anExchangeKeepsTheRestTheRightsAndTheLink) {
+    namespace fs = std::filesystem;
+    const std::vector<std::string_view> pieces = {"one", "", "two"};
+    files.exchange("new", pieces);
+    EXPECT_EQ(folder.bytes("new"), "onetwo");
+    const FreshFolder outside;
+    outside.put("a", "123456789");
+    fs::permissions(outside / "a", fs::perms(0640));
+    fs::create_symlink(outside / "a", folder / "second");
+    fs::create_symlink("second", folder / "first");
+    folder.put(".new.new", "left behind by a kill");
+    files.exchange("first", pieces);
+    files.exchange("new", pieces);
+    EXPECT_EQ(outside.bytes("a"), "onetwo789");
+    EXPECT_EQ(fs::status(outside / "a").permissions(), fs::perms(0640));
+    EXPECT_TRUE(fs::is_symlink(folder / "first"));
+    EXPECT_EQ(files.list(".", "*").size(), 3U);
+    EXPECT_FALSE(folder.has(".new.new"));
+    fs::create_directory(folder / "folder");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(troubleIn([&] { files.exchange("folder", pieces); }), FileTrouble::access);
+    EXPECT_EQ(troubleIn([&] { files.exchange("pipe", pieces); }), FileTrouble::access);
+    EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+}
+
+// A kill at any moment leaves one of the two contents, never a mixture.
+TEST_F(FilesTest, anExchangeIsWholeOrNotAtAll) {
+    const std::string one(300000, '1'), two(300000, '2');
+    folder.put("a", one);
+    for (int round = 0; round < 20; ++round) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            for (;;) {
+                files.exchange("a", std::array<std::string_view, 1>{two});
+                files.exchange("a", std::array<std::string_view, 1>{one});
+            }
+        }
+        ::usleep(static_cast<useconds_t>(1000 + 700 * round));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        const std::string found = folder.bytes("a");
+        EXPECT_TRUE(found == one || found == two) << found.size();
+    }
 }
 
 TEST_F(FilesTest, emptyAFolderByPatternAndFollowNoLink) {

@@ -39,7 +39,8 @@ int PrintCopyEditor::caretLine() const {
 
 int PrintCopyEditor::caretColumn() const {
     const TextView text = textToLastKey();
-    return caretAtKey_ ? static_cast<int>(text.size() - text.rfind(u'\n')) : 0;  // none is one before the first
+    return caretAtKey_ ? static_cast<int>(text.size() - text.rfind(u'\n'))
+                       : 0;  // none is one before the first
 }
 
 void PrintCopyEditor::leaveOverwritingAtStart() {

@@ -57,8 +57,9 @@ void PrintOptions::chosen() {
 }
 
 void PrintOptions::showFont() {
-    const auto found = std::find_if(typeSettings.begin(), typeSettings.end(),
-                                    [this](const TypeSetting& setting) { return setting.code == printFontCode_; });
+    const auto found =
+        std::find_if(typeSettings.begin(), typeSettings.end(),
+                     [this](const TypeSetting& setting) { return setting.code == printFontCode_; });
     if (found != typeSettings.end()) c.druckcomb.setText(found->text);
 }
 

@@ -44,10 +44,11 @@ void QuickFile::quickSave() {
     gatherRounding(record_);
     try {
         writeRecord(files_, fileName, record_);
-        messages_.tell({u"Die Einstellungen wurden erfolgreich gespeichert und werden   \r\n"
-                        u"beim nächsten Aufruf von Zifferon PRO automatisch geladen.   ",
-                        u"The settings have been saved and will be restored automatically \r\n"
-                        u"after reloading Zifferon PRO."});
+        messages_.tell(
+            {u"Die Einstellungen wurden erfolgreich gespeichert und werden   \r\n"
+             u"beim nächsten Aufruf von Zifferon PRO automatisch geladen.   ",
+             u"The settings have been saved and will be restored automatically \r\n"
+             u"after reloading Zifferon PRO."});
     } catch (const FileFailure&) {
         messages_.fail({u"quicksave.zfr: Die Rechnung konnte nicht gespeichert werden.   ",
                         u"quicksave.zfr: The calculation could not be saved.   "});

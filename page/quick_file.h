@@ -19,7 +19,12 @@ class QuickFile {
     // All of them must outlive it.
     QuickFile(CalculationRecord& record, QuickButtons& buttons, Undo& undo, Files& files,
               const Messages& messages)
-        : s(record.state), record_(record), buttons_(buttons), undo_(undo), files_(files), messages_(messages) {}
+        : s(record.state),
+          record_(record),
+          buttons_(buttons),
+          undo_(undo),
+          files_(files),
+          messages_(messages) {}
 
     void wire();
 

@@ -162,7 +162,7 @@ void StoredCalculations::loadRecord(bool byButton) {
 // The settings in the file are not taken over.
 void StoredCalculations::readPicked(bool byButton) {
     const FileContent content = p.files.read(p.list.pickedFile());
-    if (content.size() == 0) throw RecordFailure();  // no calculation: a save that did not come to its end
+    if (!isWholeCalculation(content.view(), p.record)) throw RecordFailure();
     decodeRecord(content.view(), p.record);
     applyCells(p.record);
     applyFields(p.record);

@@ -8,11 +8,11 @@ void TapePage::wire() {
     c.edit.onClick = [this] { open(); };
     c.leave.onClick = [this] { leave(); };
     s.superdruck.onGotFocus = [this] { printCopyFocused(); };
-    p.window.tabOrder = {&s.superdruck,  &c.Check33,   &c.savefiles, &c.Speichern,     &c.Files,
-                         &c.laden,       &c.killfile,  &c.editordruck, &c.optbtn,      &c.leave,
-                         &c.druckcomb,   &c.cmdkopf,   &c.standardprint, &c.back};
-    for (Control* button : {&c.laden, &c.killfile, &c.Speichern, &c.editordruck, &c.optbtn, &c.leave, &c.cmdkopf,
-                            &c.standardprint, &c.back}) {
+    p.window.tabOrder = {&s.superdruck, &c.Check33,  &c.savefiles,     &c.Speichern, &c.Files,
+                         &c.laden,      &c.killfile, &c.editordruck,   &c.optbtn,    &c.leave,
+                         &c.druckcomb,  &c.cmdkopf,  &c.standardprint, &c.back};
+    for (Control* button : {&c.laden, &c.killfile, &c.Speichern, &c.editordruck, &c.optbtn, &c.leave,
+                            &c.cmdkopf, &c.standardprint, &c.back}) {
         button->takesFocus = true;
     }
 }
@@ -41,10 +41,10 @@ void TapePage::leave() {
 
 // The page, or else the controls of the desk that it takes away.
 void TapePage::showParts(bool visible) {
-    for (Control* part : {static_cast<Control*>(&c.insertmode), static_cast<Control*>(&s.superdruck),
-                          &c.blende, static_cast<Control*>(&c.Check33), &c.Speichern, &c.blendevorschau,
-                          &c.laden, static_cast<Control*>(&c.Files), static_cast<Control*>(&c.savefiles),
-                          &c.Frame7}) {
+    for (Control* part :
+         {static_cast<Control*>(&c.insertmode), static_cast<Control*>(&s.superdruck), &c.blende,
+          static_cast<Control*>(&c.Check33), &c.Speichern, &c.blendevorschau, &c.laden,
+          static_cast<Control*>(&c.Files), static_cast<Control*>(&c.savefiles), &c.Frame7}) {
         part->visible = visible;
     }
     s.Checkob.visible = s.clipcheck.visible = s.Checksound.visible = s.zurück.visible = !visible;

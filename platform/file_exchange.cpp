@@ -34,8 +34,7 @@ void keepRest(const Descriptor& former, const Descriptor& file) {
     checked([&] { return ::fchmod(file.number(), status.st_mode & 07777); });
     std::array<char, 65536> buffer;
     for (off_t at = sizeOf(file); at < status.st_size;) {
-        const auto read =
-            checked([&] { return ::pread(former.number(), buffer.data(), buffer.size(), at); });
+        const auto read = checked([&] { return ::pread(former.number(), buffer.data(), buffer.size(), at); });
         if (read == 0) break;
         const std::string_view piece(buffer.data(), static_cast<std::size_t>(read));
         writeAll(file, std::span(&piece, 1));
@@ -83,15 +82,15 @@ void exchangeFile(int programFolder, const std::string& name, std::span<const st
         if (former) keepRest(*former, file);
         checked([&] { return ::fsync(file.number()); });
         file.close();
-        checked([&] {
-            return ::renameat(programFolder, beside.c_str(), programFolder, target.c_str());
-        });
+        checked([&] { return ::renameat(programFolder, beside.c_str(), programFolder, target.c_str()); });
     } catch (const FileFailure&) {
         ::unlinkat(programFolder, beside.c_str(), 0);
         throw;
     }
-    const Descriptor folder(::openat(programFolder, folderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder.number() >= 0) ::fsync(folder.number());  // one that may not be read is told of it in its own time
+    const Descriptor folder(
+        ::openat(programFolder, folderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.number() >= 0)
+        ::fsync(folder.number());  // one that may not be read is told of it in its own time
 }
 
 }  // namespace zifferon

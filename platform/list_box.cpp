@@ -11,7 +11,8 @@ namespace {
 
 // Of the letters in the program's character set.
 char16_t lowered(char16_t letter) {
-    const bool capital = (letter >= u'A' && letter <= u'Z') || (letter >= u'À' && letter <= u'Þ' && letter != u'×');
+    const bool capital =
+        (letter >= u'A' && letter <= u'Z') || (letter >= u'À' && letter <= u'Þ' && letter != u'×');
     return capital ? static_cast<char16_t>(letter + 32) : letter;
 }
 

@@ -50,8 +50,8 @@ auto checked(Call call) {
     }
 }
 
-// Opens a file of a folder, with the rights of a new file where it is created. Not blocking, so that a pipe in
-// the place of a file is a failure and no waiting for ever.
+// Opens a file of a folder, with the rights of a new file where it is created. Not blocking, so that a pipe
+// in the place of a file is a failure and no waiting for ever.
 int openFile(int folder, const std::string& name, int flags);
 
 // Writes the pieces one behind the other, from where the file stands.

@@ -18,8 +18,8 @@ namespace zifferon {
 
 namespace {
 
-constexpr off_t largestFile = off_t{1} << 30;       // more is no file of this program
-constexpr mode_t newFolder = 0777;  // less what the user's mask takes away
+constexpr off_t largestFile = off_t{1} << 30;  // more is no file of this program
+constexpr mode_t newFolder = 0777;             // less what the user's mask takes away
 
 std::string_view trimmed(std::string_view name) {
     const std::size_t first = name.find_first_not_of(' ');
@@ -141,7 +141,8 @@ std::chrono::system_clock::time_point PosixFiles::lastModified(const std::string
 
 void PosixFiles::stamp(const std::string& name, std::chrono::system_clock::time_point written) {
     const auto seconds = std::chrono::floor<std::chrono::seconds>(written);
-    const timespec time{seconds.time_since_epoch().count(), std::chrono::nanoseconds(written - seconds).count()};
+    const timespec time{seconds.time_since_epoch().count(),
+                        std::chrono::nanoseconds(written - seconds).count()};
     const timespec times[] = {time, time};
     checked([&] { return ::utimensat(folder_.number(), name.c_str(), times, 0); });
 }
@@ -154,9 +155,7 @@ std::vector<std::string> PosixFiles::list(const std::string& folder, const std::
     return names;
 }
 
-int PosixFiles::open(const std::string& name, int flags) {
-    return openFile(folder_.number(), name, flags);
-}
+int PosixFiles::open(const std::string& name, int flags) { return openFile(folder_.number(), name, flags); }
 
 FileContent PosixFiles::readAll(const Descriptor& file) {
     const off_t end = checked([&] { return ::lseek(file.number(), 0, SEEK_END); });

@@ -12,8 +12,13 @@ TextFollower::TextFollower(TextField& field) : field_(field) { field_.followers_
 
 TextFollower::~TextFollower() { std::erase(field_.followers_, this); }
 
-std::size_t TextFollower::takeUnchangedPrefix() {
-    return std::exchange(unchangedPrefix_, field_.text().size());
+TextFollower::Ends TextFollower::takeUnchanged() {
+    const std::size_t now = field_.text().size();
+    const std::size_t shorter = std::min(std::exchange(length_, now), now);
+    Ends ends = std::exchange(unchanged_, {now, now});
+    ends.prefix = std::min(ends.prefix, shorter);
+    ends.suffix = std::min(ends.suffix, shorter - ends.prefix);
+    return ends;
 }
 
 void TextField::setText(TextView text) {
@@ -142,12 +147,13 @@ void TextField::replace(std::size_t start, std::size_t length, TextView by) {
     if (keepsChanges) keepChange(start, TextView(text_).substr(start, length), by);
     text_.replace(start, length, by);
     setCaret(start + by.size());
-    changed(start);
+    changed(start, text_.size() - start - by.size());
 }
 
 // Characters typed in one go are one change, up to the end of a line.
 void TextField::keepChange(std::size_t start, TextView old, TextView by) {
-    const bool goesOn = !changes_.empty() && by.size() == 1 && old.size() <= 1 && changes_.back().inserted > 0 &&
+    const bool goesOn = !changes_.empty() && by.size() == 1 && old.size() <= 1 &&
+                        changes_.back().inserted > 0 &&
                         changes_.back().start + changes_.back().inserted == start;
     if (!goesOn) return changes_.push_back({start, Text(old), by.size()});
     changes_.back().old += old;
@@ -160,14 +166,15 @@ bool TextField::undo() {
     changes_.pop_back();
     text_.replace(last.start, last.inserted, last.old);
     select(last.start, last.old.size());
-    changed(last.start);
+    changed(last.start, text_.size() - last.start - last.old.size());
     return true;
 }
 
-void TextField::changed(std::size_t unchangedPrefix) {
+void TextField::changed(std::size_t unchangedPrefix, std::size_t unchangedSuffix) {
     assert(caret_ + selection_ <= text_.size());
     for (TextFollower* follower : followers_) {
-        follower->unchangedPrefix_ = std::min(follower->unchangedPrefix_, unchangedPrefix);
+        TextFollower::Ends& ends = follower->unchanged_;
+        ends = {std::min(ends.prefix, unchangedPrefix), std::min(ends.suffix, unchangedSuffix)};
     }
     call(onChange);
 }

@@ -12,8 +12,8 @@ namespace zifferon {
 
 class TextField;
 
-// Tells how much of the front of a field's text has stood unchanged, for whoever keeps a form of that text of
-// his own and brings up to date only what follows. Must not outlive the field.
+// Tells how much of both ends of a field's text has stood unchanged, for whoever keeps a form of that text of
+// his own and brings up to date only what lies between. Must not outlive the field.
 class TextFollower {
   public:
     explicit TextFollower(TextField& field);
@@ -21,19 +21,25 @@ class TextFollower {
     TextFollower& operator=(const TextFollower&) = delete;
     ~TextFollower();
 
-    // How many leading characters have stood unchanged since the last call; 0 at the first.
-    std::size_t takeUnchangedPrefix();
+    // How many leading and how many trailing characters have stood unchanged since the last call, none of
+    // them counted twice in the former text or the present one; 0 at the first call.
+    struct Ends {
+        std::size_t prefix = 0, suffix = 0;
+    };
+    Ends takeUnchanged();
 
   private:
     friend class TextField;
 
     TextField& field_;
-    std::size_t unchangedPrefix_ = 0;
+    Ends unchanged_;
+    std::size_t length_ = 0;  // of the text at the last call
 };
 
 class TextField : public Control {
   public:
-    explicit TextField(Alignment initialAlignment = Alignment::left, ControlKind ofField = ControlKind::textField)
+    explicit TextField(Alignment initialAlignment = Alignment::left,
+                       ControlKind ofField = ControlKind::textField)
         : Control(ofField) {
         alignment = initialAlignment;
     }
@@ -104,7 +110,7 @@ class TextField : public Control {
     std::size_t before(std::size_t position) const;
     std::size_t behind(std::size_t position) const;
     void replace(std::size_t start, std::size_t length, TextView by);
-    void changed(std::size_t unchangedPrefix);
+    void changed(std::size_t unchangedPrefix, std::size_t unchangedSuffix = 0);
     void keepChange(std::size_t start, TextView old, TextView by);
 
     // What the user has changed: `old` stood where `inserted` characters stand now.

@@ -23,7 +23,8 @@ Program::Program(Machine& ofTheProgram)
       files(pultform.page.Files, machine.files),
       preview(pultform.state, pultform.page, files, pultform, machine, messages),
       editor(pultform.state, pultform.page, pultform, messages),
-      stored({pultform.state, record, pultform.page, files, preview, undo, pultform, machine.files, messages}),
+      stored(
+          {pultform.state, record, pultform.page, files, preview, undo, pultform, machine.files, messages}),
       printOptions(pultform.page, preview, pultform, settings),
       page({pultform.state, pultform.page, files, preview, printOptions, pultform, settings}),
       helpDesk(pultform, kopf, help, machine, messages, settings),

@@ -60,7 +60,7 @@ void Form3::addButton(Control& button, TextView controlName, TextView buttonCapt
     button.caption = buttonCaption;
     button.onClick = [this, choice] { choose(choice); };
     button.onKeyDown = [this, &button](int& code) { keyDown(button, code); };
-    button.onKeyPress = [this, &button](char16_t& character) { keyPress(button, character); };
+    button.onKeyPress = [this](char16_t& character) { keyPress(character); };
 }
 
 void Form3::keyDown(const Control& button, int code) {
@@ -68,8 +68,7 @@ void Form3::keyDown(const Control& button, int code) {
     if (arrow || code == keyCode::tab) setFocus(&button == &Command1 ? Command2 : Command1);
 }
 
-void Form3::keyPress(const Control& button, char16_t character) {
-    if (character == u'\r' || character == u' ') button.onClick();
+void Form3::keyPress(char16_t character) {
     if (character == u'd' || character == u'D') choose(Language::german);
     if (character == u'e' || character == u'E') choose(Language::english);
 }

@@ -28,7 +28,7 @@ class Form3 : public Window {
   private:
     void addButton(Control& button, TextView controlName, TextView buttonCaption, int left, Language choice);
     void keyDown(const Control& button, int code);
-    void keyPress(const Control& button, char16_t character);
+    void keyPress(char16_t character);
     void choose(Language choice);
 
     std::optional<Language> choice_;

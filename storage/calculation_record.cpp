@@ -58,6 +58,18 @@ struct FieldChecker {
     void operator()(double value) { reader.read(value); }
 };
 
+// Counts the fields that begin before the end of the file.
+struct FieldCounter {
+    FieldChecker checker;
+    int& count;
+
+    template <class Field>
+    void operator()(const Field& field) {
+        count += checker.reader.atEnd() ? 0 : 1;
+        checker(field);
+    }
+};
+
 // The text of a field that holds a figure. It may have been written under other separators.
 Text figuresOf(const TaggedBytes& found, Separators separators) {
     return found.value().underSeparators(separators).toText(separators);
@@ -161,6 +173,13 @@ Text printCopyOf(std::string_view bytes, Separators separators) {
     Text copy(found.content.size(), u'\0');
     decodeWindows1252(found.content, copy.data());
     return copy;
+}
+
+bool isWholeCalculation(std::string_view bytes, const CalculationRecord& record) {
+    constexpr int upToTapeClearArmed = 16;
+    int count = 0;
+    visitFields(record, FieldCounter{{RecordReader(bytes)}, count});
+    return count >= upToTapeClearArmed;
 }
 
 void decodeRecord(std::string_view bytes, CalculationRecord& record) {

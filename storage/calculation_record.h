@@ -69,6 +69,10 @@ void gatherRounding(CalculationRecord& record);
 // RecordFailure.
 Text printCopyOf(std::string_view bytes, Separators separators);
 
+// Whether the bytes hold all fields up to savedTapeClearArmed, which make the calculation; a file that was
+// cut short does not. Throws RecordFailure.
+bool isWholeCalculation(std::string_view bytes, const CalculationRecord& record);
+
 // Decodes the fields; tagged ones behind the end become nothing, the others stay as they were. All but the
 // tapes come under the separators in use, also what is no text in the place of one. Throws RecordFailure, and
 // then the record is as before.

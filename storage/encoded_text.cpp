@@ -27,6 +27,6 @@ void EncodedText::writeToField() {
     field_.setTextFrom(agreed_, rest);
 }
 
-void EncodedText::findAgreement() { agreed_ = std::min(agreed_, follower_.takeUnchangedPrefix()); }
+void EncodedText::findAgreement() { agreed_ = std::min(agreed_, follower_.takeUnchanged().prefix); }
 
 }  // namespace zifferon

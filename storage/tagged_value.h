@@ -72,6 +72,8 @@ class RecordReader {
     // another sign or more than 28 decimals.
     TaggedBytes tagged();
 
+    bool atEnd() const { return rest_.empty(); }
+
     // Behind the end of the file the variable stays as it was. Throws RecordFailure for missing bytes.
     void read(float& value);
     void read(double& value);

@@ -121,7 +121,7 @@ class HeadlessMachine : public Boxes,
     Text clipboard_;
     unsigned long boxesShown_ = 0;
     bool trayIcon_ = false;
-    std::int64_t now_ = 0;  // milliseconds
+    std::int64_t now_ = 0;                         // milliseconds
     std::chrono::system_clock::time_point clock_;  // when they began
     std::unordered_map<const Timer*, Due> due_;
     Window* mainWindow_ = nullptr;

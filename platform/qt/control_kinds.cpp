@@ -248,9 +248,8 @@ class ComboView : public ControlView {
     ComboView(Control& control, QComboBox& box, FormView& form)
         : ControlView(control, box, form), combo_(static_cast<ComboBox&>(control)), box_(box) {
         box_.setFocusPolicy(Qt::TabFocus);
-        connect(&box_, &QComboBox::activated, this, [this](int row) {
-            this->form().run([&] { combo_.choose(row + 1); });
-        });
+        connect(&box_, &QComboBox::activated, this,
+                [this](int row) { this->form().run([&] { combo_.choose(row + 1); }); });
     }
 
     void refreshContent() override {

@@ -86,8 +86,8 @@ void ControlView::refreshColours() {
 }
 
 bool ControlView::eventFilter(QObject* surface, QEvent* event) {
-    // Buttons, check boxes and combo boxes need the mouse for their own look, and tell of their clicks themselves, whether
-    // these come by mouse or by a screen reader. Nothing else does: an event ends here.
+    // Buttons, check boxes and combo boxes need the mouse for their own look, and tell of their clicks
+    // themselves, whether these come by mouse or by a screen reader. Nothing else does: an event ends here.
     const bool button = control_.kind == ControlKind::button || control_.kind == ControlKind::checkBox ||
                         control_.kind == ControlKind::comboBox;
     const auto position = [event] { return static_cast<QMouseEvent*>(event)->position().toPoint(); };

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/line_starts.h"
 #include "platform/qt/control_view.h"
 #include "platform/qt/tape_access.h"
 
@@ -46,30 +47,22 @@ TapeArea::TapeArea(TextField& field, QWidget* parent)
 }
 
 void TapeArea::follow() {
-    const std::size_t unchanged = follower_.takeUnchangedPrefix();
-    const bool changed = unchanged != length_ || field_.text().size() != length_;
+    const TextFollower::Ends unchanged = follower_.takeUnchanged();
+    const bool changed = unchanged.prefix != length_ || field_.text().size() != length_;
     const bool caretMoved =
         hasFocus() && (caret_ != field_.caret() || selection_ != field_.selectionLength());
     if (!changed && !caretMoved) return;
     if (changed) {
         const std::size_t before = std::exchange(length_, field_.text().size());
-        findLines(std::min(unchanged, before));
+        followLines(starts_, field_.text(), unchanged, before);
         fitScrollBar();
-        if (unchanged == before) announceTapeText(*this, before, TextView(field_.text()).substr(before));
+        if (unchanged.prefix == before)
+            announceTapeText(*this, before, TextView(field_.text()).substr(before));
     }
     caret_ = field_.caret();
     selection_ = field_.selectionLength();
     showPosition(hasFocus() ? caret_ : length_);
     viewport()->update();
-}
-
-void TapeArea::findLines(std::size_t unchanged) {
-    while (starts_.back() > unchanged) starts_.pop_back();
-    const TextView text = field_.text();
-    for (std::size_t end = text.find(u'\n', unchanged); end != TextView::npos;
-         end = text.find(u'\n', end + 1)) {
-        starts_.push_back(end + 1);
-    }
 }
 
 void TapeArea::fitScrollBar() {

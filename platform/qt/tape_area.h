@@ -42,7 +42,6 @@ class TapeArea : public QAbstractScrollArea {
         double left, squeeze, behind;
     };
 
-    void findLines(std::size_t unchanged);
     void fitScrollBar();
     void paintLine(QPainter& painter, std::size_t line, int top) const;
     void paintSelection(QPainter& painter, std::size_t line, int top) const;

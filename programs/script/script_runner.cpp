@@ -173,7 +173,9 @@ void ScriptRunner::choose(ScriptLine& line) {
     auto* const combo = dynamic_cast<ComboBox*>(&target);
     if (list == nullptr && combo == nullptr) throw MalformedScript("no list and no combo box");
     const std::vector<Text>& rows = list != nullptr ? list->rows() : combo->rows;
-    const auto rowOf = [&](const Text& text) { return std::find(rows.begin(), rows.end(), text) - rows.begin() + 1; };
+    const auto rowOf = [&](const Text& text) {
+        return std::find(rows.begin(), rows.end(), text) - rows.begin() + 1;
+    };
     const auto row = static_cast<int>(line.atQuote() ? rowOf(line.quotedText()) : line.number());
     line.expectEnd();
     if (!inReach(target)) return;

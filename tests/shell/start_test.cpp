@@ -29,6 +29,7 @@ TEST(LanguageWindow, isUsedByTheKeyboard) {
     EXPECT_EQ(chosen(german, {tab, enter}), english);
     EXPECT_EQ(chosen(english, {left, keyOfCharacter(u' ')}), german);
     EXPECT_EQ(chosen(german, {tab, left, enter}), german);
+    EXPECT_EQ(chosen(german, {Key{keyCode::f3}, enter}), german);
     EXPECT_EQ(chosen(german, {keyOfCharacter(u'e')}), english);
     EXPECT_EQ(chosen(english, {keyOfCharacter(u'D')}), german);
     EXPECT_EQ(chosen(german, {keyOfCharacter(u'x'), tab}), std::nullopt);

@@ -41,8 +41,9 @@ class Windows : public FreshProgramTest {
   protected:
     // The controls of a window; of one that has been told before, those that have changed.
     void tell(const std::string& heading, const Window& window) {
-        table_ << heading << ' ' << window.place.width << ' ' << window.place.height
-               << (window.framed ? "" : " frameless") << (window.closeable ? "" : " stays") << '\n';
+        table_ << heading << " \"" << toUtf8(window.caption) << "\" " << window.place.width << ' '
+               << window.place.height << (window.framed ? "" : " frameless")
+               << (window.closeable ? "" : " stays") << '\n';
         for (const Control* const control : window.controls()) {
             const std::string line = lineOf(*control);
             if (std::exchange(told_[control], line) != line) table_ << "  " << line << '\n';
@@ -67,6 +68,18 @@ class Windows : public FreshProgramTest {
     std::map<const Control*, std::string> told_;
     std::ostringstream table_;
 };
+
+TEST_F(Windows, takeTheColoursOfTheSchemeThatAKeyChooses) {
+    applyBackScheme(program_.pultform, program_.help, 2);
+    const Colour second = program_.pultform.backColour;
+    applyTextScheme(program_.pultform, 6);
+    const Colour sixth = state().zwischen.foreColour;
+    program_.colours.standard();
+    program_.keys.stroke({keyCode::f7});
+    EXPECT_EQ(program_.pultform.backColour, second);
+    program_.keys.stroke({keyCode::f6});
+    EXPECT_EQ(state().zwischen.foreColour, sixth);
+}
 
 TEST_F(Windows, standAsTheyWereDesigned) {
     Pultform& desk = program_.pultform;

@@ -116,14 +116,16 @@ TEST_F(PageTest, TheListScrollsAlongItsRows) {
     EXPECT_TRUE(comesTrue([&] { return page().txtvorschaulabel.is(u"Vorschau '139.sav'"); }));
     hands.moveMouse(onRow(40));
     hands.click(4);
-    EXPECT_TRUE(comesTrue([&] { return list.verticalScrollBar()->value() < list.verticalScrollBar()->maximum(); }));
+    EXPECT_TRUE(
+        comesTrue([&] { return list.verticalScrollBar()->value() < list.verticalScrollBar()->maximum(); }));
     EXPECT_EQ(page().Files.row(), 40);
 }
 
 TEST_F(PageTest, AnotherProgramFindsEachResult) {
     const auto found = [] {
         QProcess reader;
-        reader.start(QStringLiteral("xclip"), {QStringLiteral("-o"), QStringLiteral("-selection"), QStringLiteral("clipboard")});
+        reader.start(QStringLiteral("xclip"),
+                     {QStringLiteral("-o"), QStringLiteral("-selection"), QStringLiteral("clipboard")});
         comesTrue([&] { return reader.state() == QProcess::NotRunning; });
         return reader.readAllStandardOutput();
     };

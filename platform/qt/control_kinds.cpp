@@ -1,18 +1,14 @@
-// One view for each kind of control, but for the text fields.
-#include <QAbstractListModel>
+// One view for each kind of control, but for text fields and lists.
 #include <QCheckBox>
-#include <QComboBox>
 #include <QIcon>
 #include <QLabel>
-#include <QListView>
 #include <QPainter>
 #include <QPushButton>
 #include <QSvgRenderer>
 
-#include "platform/combo_box.h"
-#include "platform/list_box.h"
 #include "platform/qt/control_view.h"
 #include "platform/qt/form_view.h"
+#include "platform/qt/list_views.h"
 #include "platform/qt/text_view.h"
 
 namespace zifferon {
@@ -178,93 +174,6 @@ class PictureView : public ControlView {
     std::optional<Text> picture_;
 };
 
-// The rows of a list, as they stand in it.
-class Rows : public QAbstractListModel {
-  public:
-    explicit Rows(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
-
-    void follow() {
-        beginResetModel();
-        endResetModel();
-    }
-
-  private:
-    int rowCount(const QModelIndex&) const override { return int(list_.rows().size()); }
-    QVariant data(const QModelIndex& index, int role) const override {
-        return role == Qt::DisplayRole ? toQString(list_.rows()[std::size_t(index.row())]) : QVariant();
-    }
-
-    const ListBox& list_;
-};
-
-class ListView : public ControlView {
-  public:
-    ListView(Control& control, FormView& form) : ListView(control, *new QListView(&form), form) {}
-
-  private:
-    ListView(Control& control, QListView& view, FormView& form)
-        : ControlView(control, view, *view.viewport(), form),
-          list_(static_cast<ListBox&>(control)),
-          view_(view),
-          rows_(new Rows(list_, &view)) {
-        view_.setModel(rows_);
-        view_.setUniformItemSizes(true);
-        view_.setFrameShape(QFrame::NoFrame);
-        view_.setFocusPolicy(Qt::TabFocus);
-        view_.setEditTriggers(QAbstractItemView::NoEditTriggers);
-        view_.setTextElideMode(Qt::ElideMiddle);
-        view_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    }
-
-    // Before the handlers learn of the press; beside the rows it selects none.
-    void mousePressing(QPoint position) override {
-        list_.select(view_.indexAt(position).row() + 1);
-        view_.setCurrentIndex(view_.indexAt(position));
-    }
-
-    void refreshContent() override {
-        const bool renewed = differs(revision_, list_.revision());
-        if (renewed) rows_->follow();
-        if (!differs(row_, list_.row()) && !renewed) return;
-        const QModelIndex index = rows_->index(list_.row() - 1);
-        view_.setCurrentIndex(index);
-        if (!index.isValid()) view_.clearSelection();
-        list_.pageRows = std::max(1, view_.viewport()->height() / std::max(1, view_.sizeHintForRow(0)) - 1);
-    }
-
-    ListBox& list_;
-    QListView& view_;
-    Rows* rows_;
-    std::optional<unsigned long> revision_;
-    std::optional<int> row_;
-};
-
-// A combo box whose rows drop down; what is typed into it goes to the field as for any other.
-class ComboView : public ControlView {
-  public:
-    ComboView(Control& control, FormView& form) : ComboView(control, *new QComboBox(&form), form) {}
-
-  private:
-    ComboView(Control& control, QComboBox& box, FormView& form)
-        : ControlView(control, box, form), combo_(static_cast<ComboBox&>(control)), box_(box) {
-        box_.setFocusPolicy(Qt::TabFocus);
-        connect(&box_, &QComboBox::activated, this,
-                [this](int row) { this->form().run([&] { combo_.choose(row + 1); }); });
-    }
-
-    void refreshContent() override {
-        if (differs(rows_, combo_.rows)) {
-            box_.clear();
-            for (const Text& row : combo_.rows) box_.addItem(toQString(row));
-        }
-        if (box_.currentIndex() != combo_.row() - 1) box_.setCurrentIndex(combo_.row() - 1);
-    }
-
-    ComboBox& combo_;
-    QComboBox& box_;
-    std::optional<std::vector<Text>> rows_;
-};
-
 }  // namespace
 
 std::unique_ptr<ControlView> makeControlView(Control& control, FormView& form) {
@@ -282,9 +191,9 @@ std::unique_ptr<ControlView> makeControlView(Control& control, FormView& form) {
         case ControlKind::picture:
             return std::make_unique<PictureView>(control, form);
         case ControlKind::list:
-            return std::make_unique<ListView>(control, form);
+            return makeListView(static_cast<ListBox&>(control), form);
         case ControlKind::comboBox:
-            return std::make_unique<ComboView>(control, form);
+            return makeComboView(static_cast<ComboBox&>(control), form);
     }
     return nullptr;
 }

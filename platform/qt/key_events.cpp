@@ -9,6 +9,7 @@
 
 #include "platform/mouse.h"
 #include "platform/qt/form_view.h"
+#include "platform/tab_order.h"
 
 namespace zifferon {
 
@@ -258,7 +259,7 @@ void KeyEvents::letGoOf(quint32 scanCode) {
     keys_.keyUp(key);
 }
 
-// Whether the key copies, pastes, selects or undoes; it is none of the calculator's then.
+// Whether the key copies, pastes, selects, undoes or goes back to the control before; it is none of the calculator's then.
 bool KeyEvents::edits(const QKeyEvent& event) {
     const Window& window = form_.window();
     Control* const focus = window.focus();
@@ -281,6 +282,10 @@ bool KeyEvents::edits(const QKeyEvent& event) {
             return call(window.onUndo);
         default:
             break;
+    }
+    if (event.key() == Qt::Key_Backtab && !window.tabOrder.empty()) {
+        keys_.run([&] { focusNext(form_.window(), true); });
+        return true;
     }
     const auto key = keyOf(event);
     if (!key || key->character != 0 || focus == nullptr || !(event.modifiers() & Qt::ShiftModifier))

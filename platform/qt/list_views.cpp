@@ -3,6 +3,7 @@
 #include <QAbstractListModel>
 #include <QComboBox>
 #include <QListView>
+#include <QPainter>
 #include <algorithm>
 
 #include "platform/qt/form_view.h"
@@ -30,9 +31,24 @@ class Rows : public QAbstractListModel {
     const ListBox& list_;
 };
 
+// With a line around it while it has the keyboard.
+class List : public QListView {
+  public:
+    using QListView::QListView;
+
+  private:
+    void paintEvent(QPaintEvent* event) override {
+        QListView::paintEvent(event);
+        if (!hasFocus()) return;
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::Text));
+        painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+    }
+};
+
 class ListView : public ControlView {
   public:
-    ListView(ListBox& list, FormView& form) : ListView(list, *new QListView(&form), form) {}
+    ListView(ListBox& list, FormView& form) : ListView(list, *new List(&form), form) {}
 
   private:
     ListView(ListBox& list, QListView& view, FormView& form)
@@ -42,7 +58,6 @@ class ListView : public ControlView {
           rows_(new Rows(list_, &view)) {
         view_.setModel(rows_);
         view_.setUniformItemSizes(true);
-        view_.setFrameShape(QFrame::NoFrame);
         view_.setFocusPolicy(Qt::TabFocus);
         view_.setEditTriggers(QAbstractItemView::NoEditTriggers);
         view_.setTextElideMode(Qt::ElideMiddle);

@@ -99,7 +99,10 @@ TEST_F(PageTest, ACalculationIsStoredShownAndLoaded) {
         hands.stroke({keys::enter});
     });
     answerer.start(10);
-    hands.stroke({tab, tab, keys::enter});
+    hands.stroke({tab, tab, tab});
+    pressWith(keys::shift, tab);
+    ASSERT_TRUE(comesTrue([&] { return program.pultform.focus() == &page().killfile; }));
+    hands.stroke({keys::enter});
     EXPECT_TRUE(comesTrue([&] { return !folder.has("12.sav") && view.isActiveWindow(); }));
 }
 

@@ -93,6 +93,30 @@ TEST_F(StoredCalculationsTest, whatHasGoneOrIsNoFileIsNoCalculation) {
     EXPECT_GT(folder_.bytes("d.sav").size(), 100U);
 }
 
+// Behind the questions the paper is empty, and with the answer No its text is back.
+TEST_F(StoredCalculationsTest, hidesThePrintCopyWhileItAsks) {
+    type(u"5+");
+    store(u"a");
+    run(page().edit.onClick);
+    const TextField& copy = state().superdruck;
+    int asked = 0;
+    headless_.onUnansweredQuestion = [&] {
+        ++asked;
+        EXPECT_EQ(copy.foreColour, copy.backColour);
+    };
+    for (const Control* button : {&page().laden, &page().killfile}) {
+        run([&] { page().Files.choose(1); });
+        run(button->onClick);
+        EXPECT_EQ(copy.foreColour, Colour());
+    }
+    run([&] { page().Files.choose(1); });
+    run(page().Files.onMouseDown);
+    EXPECT_EQ(copy.foreColour, copy.backColour);
+    run([&] { program_.pultform.setFocus(page().txtvorschau); });
+    EXPECT_EQ(copy.foreColour, Colour());
+    EXPECT_EQ(asked, 2);
+}
+
 TEST_F(StoredCalculationsTest, aNameOfAnotherCharacterSetIsLoaded) {
     type(u"5+");
     store(u"a");

@@ -259,7 +259,8 @@ void KeyEvents::letGoOf(quint32 scanCode) {
     keys_.keyUp(key);
 }
 
-// Whether the key copies, pastes, selects, undoes or goes back to the control before; it is none of the calculator's then.
+// Whether the key copies, pastes, selects, undoes or goes back to the control before; it is none of the
+// calculator's then.
 bool KeyEvents::edits(const QKeyEvent& event) {
     const Window& window = form_.window();
     Control* const focus = window.focus();

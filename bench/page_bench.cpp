@@ -83,7 +83,8 @@ class Desk {
                      qt_.machine.windows,
                      qt_.machine.process,
                      qt_.machine.system,
-                     qt_.machine.desktop};
+                     qt_.machine.desktop,
+                     qt_.machine.printer};
 
   public:
     Program program{machine_};

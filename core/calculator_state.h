@@ -104,8 +104,8 @@ struct CalculatorState {
 };
 
 // What holds whenever no key is on its way: a running chain has an operator pending and a figure in zwischen,
-// unless a prompt stands there, and "=" ends it. Only M and F3 lead out of it: they take the sign of a running
-// chain away, and a percent prompt can break into it then.
+// unless a prompt stands there, and "=" ends it. Only M and F3 lead out of it: they take the sign of a
+// running chain away, and a percent prompt can break into it then.
 bool chainHolds(const CalculatorState& state);
 
 // Sets decimalPointStyle and brings the figures that stand in the fields and variables into its separators;

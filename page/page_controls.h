@@ -17,6 +17,7 @@ struct PageControls {
     CheckBox insertmode;  // ticked: the next key overwrites; lies hidden below Check33
     CheckBox Check33;     // ticked: the user wants to overwrite
     Stripes stripes;
+    Timer Timer3;  // once: the stored printer
 
     // Over the print copy: name, text and date of a stored calculation.
     TextField txtvorschaulabel{Alignment::centre}, txtvorschau, txtvorschau2;
@@ -36,8 +37,11 @@ struct PageControls {
 
     // The options of printing, over the foot.
     Control Frame8{ControlKind::frame}, Label1{ControlKind::label}, Label2{ControlKind::label};
-    ComboBox druckcomb;
+    ComboBox druckcomb, allprint;
     Control standardprint{ControlKind::button}, cmdkopf{ControlKind::button}, back{ControlKind::button};
+
+    Control focuspic{ControlKind::picture};   // out of sight: takes the focus from what may not be typed
+    Control druckblende{ControlKind::label};  // over all, while F11 prints
 
     // Whether always on top was ticked when the page or the help window took it away.
     bool savedAlwaysOnTop = false;

@@ -1,19 +1,37 @@
-// The options of printing, a panel over the foot of the page.
+// The options of printing, a panel over the foot of the page: type setting, printer, letterhead.
 #pragma once
 
+#include "core/calculator_state.h"
 #include "page/page_controls.h"
 #include "page/preview.h"
+#include "platform/machine.h"
+#include "platform/messages.h"
 #include "platform/window.h"
+#include "print/kopf.h"
+#include "print/letterhead_desk.h"
 #include "storage/settings.h"
 
 namespace zifferon {
 
 class PrintOptions {
   public:
-    // All of them must outlive it.
-    PrintOptions(PageControls& controls, Preview& preview, Window& window, const Settings& settings);
+    struct Parts {
+        CalculatorState& state;
+        PageControls& controls;
+        Preview& preview;
+        Kopf& kopf;
+        LetterheadDesk& letterhead;
+        Window& window;
+        Machine& machine;
+        const Settings& settings;
+        const Messages& messages;
+    };
+    explicit PrintOptions(const Parts& parts);
 
     void wire();
+
+    // The printers and fonts of the machine have been found.
+    void fillLists();
 
     // Shows the type setting that is stored.
     void restore();
@@ -24,15 +42,23 @@ class PrintOptions {
     // 1 to 8, one of the rows of druckcomb; any other number is none of them.
     float printFontCode() const { return printFontCode_; }
 
-  private:
-    void chosen();
-    void showFont();
+    // The printer that was stored, as it was read last.
+    const Text& standardPrinterName() const { return standardPrinterName_; }
 
+  private:
+    void wireFonts();
+    void chosen();
+    void typed();
+    void showFont();
+    void storePrinter();
+    void readPrinter();
+    void openLetterhead();
+    void acceptLetterhead();
+
+    const Parts p;
     PageControls& c;
-    Preview& preview_;
-    Window& window_;
-    const Settings& settings_;
     float printFontCode_ = 0;
+    Text standardPrinterName_;
 };
 
 }  // namespace zifferon

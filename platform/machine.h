@@ -4,6 +4,7 @@
 #include "platform/boxes.h"
 #include "platform/desktop.h"
 #include "platform/files.h"
+#include "platform/print_device.h"
 #include "platform/system.h"
 #include "platform/text.h"
 #include "platform/window.h"
@@ -70,10 +71,11 @@ struct Machine {
     Process& process;
     System& system;
     Desktop& desktop;
+    PrintDevice& printer;
 
     // The same machine but for its process.
     Machine with(Process& another) const {
-        return {boxes, clipboard, sound, files, windows, another, system, desktop};
+        return {boxes, clipboard, sound, files, windows, another, system, desktop, printer};
     }
 };
 

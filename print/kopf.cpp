@@ -1,5 +1,7 @@
 #include "print/kopf.h"
 
+#include <string>
+
 namespace zifferon {
 
 namespace {
@@ -35,6 +37,11 @@ Kopf::Kopf(const Language& language) : language_(language) {
     addFooter();
     addLooks();
     addButtons();
+    for (Control* const control : controls()) {
+        const bool pressable = control->kind == ControlKind::button || control->kind == ControlKind::checkBox;
+        if (pressable) control->takesFocus = true;
+        if (control->takesFocus) tabOrder.push_back(control);
+    }
     for (const Line& line : lines) {
         line.blank.onClick = [this, &line] { followBlankTick(line); };
     }
@@ -138,9 +145,11 @@ void Kopf::addField(TextField& field, TextView controlName, Place controlPlace, 
     field.takesFocus = true;
 }
 
-void Kopf::addSize(TextField& size, TextView controlName, Place controlPlace, Words spoken) {
+void Kopf::addSize(ComboBox& size, TextView controlName, Place controlPlace, Words spoken) {
     addField(size, controlName, controlPlace, spoken);
     size.locked = true;  // it is chosen, not typed
+    for (int points = 1; points <= 50; ++points) size.rows.push_back(fromUtf8(std::to_string(points)));
+    for (const TextView points : {u"55", u"60", u"65", u"70"}) size.rows.emplace_back(points);
     size.setText(u"10");
 }
 

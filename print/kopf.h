@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "platform/combo_box.h"
 #include "platform/language.h"
 #include "platform/window.h"
 
@@ -18,11 +19,11 @@ class Kopf : public Window {
     CheckBox logo;
     TextField zeile1, zeile2, zeile3, zeile4, zeile5;  // the head lines
     CheckBox Check1, Check2, Check3, Check4, Check7;   // which of them are left blank
-    TextField Combo1, Combo2, Combo3, Combo4, Combo7;  // their sizes in points
+    ComboBox Combo1, Combo2, Combo3, Combo4, Combo7;   // their sizes in points
     CheckBox Check5, Check6;                           // the rules: below the head lines, above the footer
     TextField nachtext;                                // the footer
-    TextField Combo6;                                  // its size
-    TextField Combo5, combfoart2, combfoart3;          // the fonts of line 1, of lines 2 to 5, of the footer
+    ComboBox Combo6;                                   // its size
+    ComboBox Combo5, combfoart2, combfoart3;           // the fonts of line 1, of lines 2 to 5, of the footer
     CheckBox bold1, bold2, bold3;
     CheckBox kur1, kur2, kur3;
 
@@ -37,7 +38,7 @@ class Kopf : public Window {
     struct Line {
         TextField& text;
         CheckBox& blank;
-        TextField& size;
+        ComboBox& size;
     };
     const std::array<Line, 5> lines{{{zeile1, Check1, Combo1},
                                      {zeile2, Check2, Combo2},
@@ -48,7 +49,7 @@ class Kopf : public Window {
     // The looks of line 1, of lines 2 to 5, and of the footer.
     struct Look {
         Control& label;
-        TextField& font;
+        ComboBox& font;
         CheckBox& bold;
         CheckBox& italic;
     };
@@ -67,7 +68,7 @@ class Kopf : public Window {
                       Words changedCaption = {});
     void addTick(CheckBox& tick, TextView controlName, Place controlPlace, Words spoken);
     void addField(TextField& field, TextView controlName, Place controlPlace, Words spoken);
-    void addSize(TextField& size, TextView controlName, Place controlPlace, Words spoken);
+    void addSize(ComboBox& size, TextView controlName, Place controlPlace, Words spoken);
 
     void followBlankTick(const Line& line);
     Text blankLineNote() const;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <initializer_list>
+#include <span>
 
 #include "core/failure.h"
 #include "storage/tagged_value.h"
@@ -67,6 +68,28 @@ void readLetterhead(Files& files, Kopf& kopf) {
     items.texts({&k.combfoart2, &k.combfoart3});
     items.bareTicks({&k.bold1, &k.bold2, &k.bold3, &k.kur1, &k.kur2, &k.kur3});
     items.taggedTicks({&k.logo});
+}
+
+void writeLetterhead(Files& files, const Kopf& k) {
+    RecordWriter writer;
+    const auto texts = [&](std::initializer_list<const TextField*> fields) {
+        for (const TextField* field : fields) writer.tagged(field->text());
+    };
+    const auto taggedTicks = [&](std::initializer_list<const CheckBox*> ticks) {
+        for (const CheckBox* tick : ticks) writer.tagged(CalcValue(tick->ticked() ? 1 : 0));
+    };
+    texts({&k.zeile1, &k.zeile2, &k.zeile3, &k.zeile4, &k.zeile5});
+    texts({&k.Combo1, &k.Combo2, &k.Combo3, &k.Combo4, &k.Combo5, &k.Combo6, &k.Combo7});
+    taggedTicks({&k.Check1, &k.Check2, &k.Check3, &k.Check4, &k.Check5, &k.Check6, &k.Check7});
+    texts({&k.nachtext});
+    taggedTicks({&k.checkstamm});
+    texts({&k.combfoart2, &k.combfoart3});
+    for (const CheckBox* tick : {&k.bold1, &k.bold2, &k.bold3, &k.kur1, &k.kur2, &k.kur3}) {
+        writer.write(tick->ticked() ? 1.0 : 0.0);
+    }
+    taggedTicks({&k.logo});
+    const std::string_view bytes = writer.bytes();
+    files.exchange(letterheadFile, std::span(&bytes, 1));
 }
 
 void completeFonts(Kopf& kopf) {

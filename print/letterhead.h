@@ -25,6 +25,10 @@ namespace zifferon {
 // been applied.
 void readLetterhead(Files& files, Kopf& kopf);
 
+// Exchanges the file for one with the letterhead of the controls; what a longer file held behind it stays,
+// and nothing reads it. Throws FileFailure, and then the file is as before.
+void writeLetterhead(Files& files, const Kopf& kopf);
+
 // Gives each size and font that is empty what it is at first.
 void completeFonts(Kopf& kopf);
 

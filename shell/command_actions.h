@@ -3,6 +3,7 @@
 
 #include "memory/command_keys.h"
 #include "memory/undo.h"
+#include "page/printing.h"
 #include "shell/colours.h"
 #include "shell/ending.h"
 #include "shell/locale.h"
@@ -22,6 +23,7 @@ class CommandActions : public CommandCalls {
         Colours& colours;
         Sounds& sounds;
         Ending& ending;
+        Printing& printing;
         const Settings& settings;
         const Messages& messages;
     };
@@ -29,7 +31,7 @@ class CommandActions : public CommandCalls {
 
     void applyUndo() override { p.undo.applyUndo(); }
     void quit() override { p.ending.quit(); }
-    void printTape() override {}
+    void printTape() override { p.printing.printTape(); }
     void nextWindowMode() override;
     void nextTextColours() override { p.colours.nextText(); }
     void nextBackColours() override { p.colours.nextBack(); }

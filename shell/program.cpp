@@ -25,10 +25,13 @@ Program::Program(Machine& ofTheProgram)
       editor(pultform.state, pultform.page, pultform, messages),
       stored(
           {pultform.state, record, pultform.page, files, preview, undo, pultform, machine.files, messages}),
-      printOptions(pultform.page, preview, pultform, settings),
+      letterhead(kopf, pultform.state.language, messages),
+      printOptions(
+          {pultform.state, pultform.page, preview, kopf, letterhead, pultform, machine, settings, messages}),
       page({pultform.state, pultform.page, files, preview, printOptions, pultform, settings}),
+      printing({pultform.state, pultform.page, preview, page, kopf, machine.printer, messages}),
       helpDesk(pultform, kopf, help, machine, messages, settings),
-      actions({pultform, separator, undo, modes, colours, sounds, ending, settings, messages}),
+      actions({pultform, separator, undo, modes, colours, sounds, ending, printing, settings, messages}),
       commands{pultform.state, memory, pultform, messages, actions},
       desk(pultform, commands, undo, clipboard, sounds),
       editing(pultform, keys, machine),
@@ -42,7 +45,9 @@ Program::Program(Machine& ofTheProgram)
     preview.wire();
     editor.wire();
     stored.wire();
+    letterhead.wire();
     printOptions.wire();
+    printing.wire();
     page.wire();
     helpDesk.wire();
     editing.wire();
@@ -53,6 +58,7 @@ void Program::start() {
     machine.desktop.registerHotKey();
     wireDesktop();
     machine.windows.show(pultform);
+    machine.printer.find([this] { printOptions.fillLists(); });
 }
 
 void Program::wireDesktop() {
@@ -65,6 +71,8 @@ void Program::beginFresh() {
     CalculatorState& s = pultform.state;
     pultform.speak(s.language, false);
     kopf.speak(s.language, false);
+    letterhead.clear();
+    machine.printer.find([this] { printOptions.fillLists(); });
     sounds.skipStart();
     startUp.readFrame();
     modes.layOutFull();

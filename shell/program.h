@@ -5,6 +5,7 @@
 
 #include "help/help_window.h"
 #include "page/print_copy_editor.h"
+#include "page/printing.h"
 #include "page/stored_calculations.h"
 #include "page/tape_page.h"
 #include "shell/command_actions.h"
@@ -57,8 +58,10 @@ class Program {
     Preview preview;
     PrintCopyEditor editor;
     StoredCalculations stored;
+    LetterheadDesk letterhead;
     PrintOptions printOptions;
     TapePage page;
+    Printing printing;
     HelpDesk helpDesk;
     CommandActions actions;
     CommandDesk commands;

@@ -8,6 +8,7 @@ Pultform::Pultform() {
     place = {0, 0, 8205, 8085};
     layOutPultform(*this);
     add(Timer2, u"Timer2");
+    add(page.Timer3, u"Timer3");
     add(minitimer, u"minitimer");
     add(page.stripes.timerraster, u"timerraster");
     add(state.errortimer, u"errortimer");

@@ -288,8 +288,7 @@ std::vector<Row> printEditPage(Pultform& w) {
          .place = {4140, 6405, 1815, 1065},
          .style = onKey,
          .caption = {u"D&RUCKEN", u"&Print"},
-         .frame = &w.page.Frame7,
-         .visible = false},
+         .frame = &w.page.Frame7},
         {.control = w.page.optbtn,
          .name = u"optbtn",
          .place = {6090, 6405, 1770, 480},
@@ -317,23 +316,26 @@ std::vector<Row> printEditPage(Pultform& w) {
          .place = {4200, 5610, 3600, 255},
          .caption = {u" Zifferon PRO-Drucker:", u" Zifferon PRO printer:"},
          .changedCaption = {u" Zifferon PRO Drucker:", u" Zifferon PRO printer:"},
+         .frame = &w.page.Frame8},
+        {.control = w.page.allprint,
+         .name = u"allprint",
+         .place = {4200, 5895, 3600, 330},
+         .style = list,
          .frame = &w.page.Frame8,
-         .visible = false},
+         .spoken = {u"Drucker", u"Printer"}},
         {.control = w.page.standardprint,
          .name = u"standardprint",
          .place = {4200, 6360, 3600, 435},
          .style = onKey,
          .caption = {u"Als Standarddrucker für &Zifferon PRO definieren",
                      u"Define as standard printer for &Zifferon PRO"},
-         .frame = &w.page.Frame8,
-         .visible = false},
+         .frame = &w.page.Frame8},
         {.control = w.page.cmdkopf,
          .name = u"cmdkopf",
          .place = {300, 6360, 3600, 435},
          .style = onKey,
          .caption = {u"&Briefkopf bearbeiten", u"Edit Lette&rhead"},
-         .frame = &w.page.Frame8,
-         .visible = false},
+         .frame = &w.page.Frame8},
         {.control = w.page.back,
          .name = u"back",
          .place = {5985, 6990, 1815, 435},
@@ -409,6 +411,13 @@ void layOutPultform(Pultform& window) {
     for (const Row& row : printEditPage(window)) add(window, row);
     addStripes(window);
     for (const Row& row : previewBoxes(window)) add(window, row);
+    add(window, {.control = window.page.focuspic, .name = u"focuspic", .place = {-3000, 0, 300, 300}});
+    add(window, {.control = window.page.druckblende,
+                 .name = u"druckblende",
+                 .place = wholeWindow,
+                 .style = heading,
+                 .caption = {u" printing...."},
+                 .visible = false});
 }
 
 }  // namespace zifferon

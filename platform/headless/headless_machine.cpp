@@ -54,33 +54,6 @@ BoxAnswer unasked(BoxButtons buttons) { return buttons == BoxButtons::ok ? BoxAn
 
 }  // namespace
 
-std::string quoted(TextView text) {
-    Text escaped = u"\"";
-    for (const char16_t unit : text) {
-        switch (unit) {
-            case u'"':
-                escaped += u"\\\"";
-                break;
-            case u'\\':
-                escaped += u"\\\\";
-                break;
-            case u'\r':
-                escaped += u"\\r";
-                break;
-            case u'\n':
-                escaped += u"\\n";
-                break;
-            case u'\t':
-                escaped += u"\\t";
-                break;
-            default:
-                escaped += unit;
-        }
-    }
-    escaped += u'"';
-    return toUtf8(escaped);
-}
-
 void HeadlessMachine::beginAnew() {
     due_.clear();
     shown_.clear();
@@ -89,6 +62,7 @@ void HeadlessMachine::beginAnew() {
     events_.clear();
     onHotKey = onTrayDoubleClick = onTrayShow = onTrayExit = onSessionEnd = nullptr;
     clipboard_.clear();
+    printer.beginAnew();
 }
 
 BoxAnswer HeadlessMachine::takeAnswer(BoxAnswer unasked) {

@@ -11,6 +11,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/headless/headless_printer.h"
+#include "platform/headless/quoted.h"
 #include "platform/key_road.h"
 #include "platform/machine.h"
 #include "platform/window.h"
@@ -38,8 +40,11 @@ class HeadlessMachine : public Boxes,
                 .windows = *this,
                 .process = *this,
                 .system = system,
-                .desktop = *this};
+                .desktop = *this,
+                .printer = printer};
     }
+
+    HeadlessPrinter printer{[this](std::string line) { tell(std::move(line)); }};
 
     // One of yes, no, ok, cancel, or a language; the next box without an answer of its own takes it.
     void queueAnswer(BoxAnswer answer) { answers_.push_back(answer); }
@@ -128,8 +133,5 @@ class HeadlessMachine : public Boxes,
     std::vector<Window*> shown_;
     std::vector<InUse> modals_;  // each above those before it
 };
-
-// Text in double quotes, with the escapes \" \\ \r \n \t.
-std::string quoted(TextView text);
 
 }  // namespace zifferon

@@ -74,8 +74,8 @@ void ControlView::refreshColours() {
     for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button, QPalette::HighlightedText}) {
         palette.setColor(role, back);
     }
-    for (const auto role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::Highlight}) {
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::Highlight,
+                            QPalette::PlaceholderText}) {
         palette.setColor(role, fore);
     }
     if (control_.kind == ControlKind::checkBox) palette.setColor(QPalette::Base, Qt::white);

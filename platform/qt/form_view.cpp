@@ -71,7 +71,10 @@ FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
     : QWidget(owner),
       window_(window),
       keys_(keys),
-      timers_(window, [this](const auto& tick) { run(tick); }),
+      timers_(window,
+              [this](const auto& tick) {
+                  if (!timersHeld_) run(tick);
+              }),
       keyEvents_(*this, keys) {
     offerTapesToScreenReaders();
     setObjectName(toQString(window.name));

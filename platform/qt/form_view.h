@@ -35,6 +35,9 @@ class FormView : public QWidget {
     // it, when the desktop has had its time to hand the keyboard over.
     void stay() { stays_ = true; }
 
+    // No timer of any window ticks while they are held.
+    static void holdTimers(bool hold) { timersHeld_ = hold; }
+
     // The forms of the program.
     static std::vector<FormView*> all();
 
@@ -82,6 +85,8 @@ class FormView : public QWidget {
     void refreshShown();
     void leave();
     QPoint startPosition() const;
+
+    inline static bool timersHeld_ = false;
 
     Window& window_;
     KeyRoad& keys_;

@@ -106,6 +106,7 @@ class ComboView : public ControlView {
             for (const Text& row : combo_.rows) box_.addItem(toQString(row));
         }
         if (box_.currentIndex() != combo_.row() - 1) box_.setCurrentIndex(combo_.row() - 1);
+        box_.setPlaceholderText(toQString(combo_.text()));  // seen where it is none of the rows
     }
 
     ComboBox& combo_;

@@ -5,6 +5,7 @@
 #include "platform/posix_files.h"
 #include "platform/posix_system.h"
 #include "platform/qt/qt_desktop.h"
+#include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_windows.h"
 #include "platform/qt/sound_player.h"
 
@@ -52,10 +53,11 @@ class QtMachine {
     QtWindows windows_{sound_};
     QtProcess process_;
     QtSystem system_;
+    QtPrinter printer_;
 
   public:
     QtDesktop desktop;
-    Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_, system_, desktop};
+    Machine machine{boxes_, clipboard_, sound_, files_, windows_, process_, system_, desktop, printer_};
 };
 
 }  // namespace zifferon

@@ -156,6 +156,8 @@ const std::unordered_map<std::string_view, Variable>& variables() {
          }},
         {"selectedFileName", [](const Program& p) { return render(p.files.pickedName()); }},
         {"selectedFileDate", [](const Program& p) { return render(p.preview.selectedFileDate()); }},
+        {"standardPrinterName",
+         [](const Program& p) { return render(p.printOptions.standardPrinterName()); }},
         {"printFontCode", [](const Program& p) { return render(double{p.printOptions.printFontCode()}); }},
         {"recordAlwaysOnTop", recorded<&CalculationRecord::recordAlwaysOnTop>},
         {"recordSound", recorded<&CalculationRecord::recordSound>},

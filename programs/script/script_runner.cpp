@@ -269,6 +269,9 @@ void ScriptRunner::setMachine(ScriptLine& line) {
     const std::string key = line.word();
     if (key == "writable") return files_.writable(line.word() != "no");
     if (key == "diskfull") return files_.diskFull(line.word() == "yes");
+    if (key == "printer") return headless_.printer.addPrinter(line.quotedText());
+    if (key == "font") return headless_.printer.addFont(line.quotedText());
+    if (key == "printfault") return headless_.printer.failCall(static_cast<int>(line.number()));
     if (key == "clock") return setClock(toUtf8(line.quotedText()));
     if (key == "caption") {
         system_.caption = static_cast<int>(line.number());

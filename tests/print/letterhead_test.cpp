@@ -146,5 +146,22 @@ TEST_F(LetterheadTest, letsAFailureOfTheFileThrough) {
     EXPECT_THROW(readLetterhead(faulty, kopf), FileFailure);
 }
 
+TEST_F(LetterheadTest, isWrittenAsItWasRead) {
+    const std::string stored = encoded({});
+    read(stored + "the tail of a longer one", kopf);
+    writeLetterhead(files, kopf);
+    EXPECT_EQ(folder.bytes("setup.zfr"), stored + "the tail of a longer one");
+    Kopf empty(language);
+    folder.put("setup.zfr", "");
+    readLetterhead(files, empty);
+    completeFonts(empty);
+    writeLetterhead(files, empty);
+    Kopf again(language);
+    readLetterhead(files, again);
+    EXPECT_EQ(again.Combo6.text(), u"8");
+    EXPECT_EQ(again.combfoart3.text(), u"Arial");
+    EXPECT_FALSE(again.checkstamm.ticked());
+}
+
 }  // namespace
 }  // namespace zifferon

@@ -55,6 +55,17 @@ TEST_F(StoredCalculationsTest, whatIsCutOrForeignLeavesThePresentOneAlone) {
     EXPECT_FALSE(keeps(whole + "a tail of a longer one"));
 }
 
+TEST_F(StoredCalculationsTest, noNameHoldsWhatASystemRefuses) {
+    run(page().edit.onClick);
+    for (const char16_t character : TextView(u"\\/:*?<>|\".")) {
+        log_.str("");
+        page().savefiles.setText(Text(u"a") + character + u"b");
+        run(page().Speichern.onClick);
+        EXPECT_TRUE(logHas("ungültige Zeichen")) << toUtf8(Text(1, character));
+    }
+    EXPECT_TRUE(disk_.list(".", "*a*b*").empty());
+}
+
 TEST_F(StoredCalculationsTest, whatHasGoneOrIsNoFileIsNoCalculation) {
     type(u"5+");
     store(u"a");

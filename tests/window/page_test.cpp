@@ -28,7 +28,7 @@ class PageTest : public WindowTest {
         return list.viewport()->mapToGlobal(place.center());
     }
 
-    static constexpr int letterD = 40, letterZ = 52, letterC = 54, insert = 118, tab = 23;
+    static constexpr int letterD = 40, letterZ = 52, letterC = 54, letterO = 32, insert = 118, tab = 23;
 };
 
 TEST_F(PageTest, ThePrintCopyIsEdited) {
@@ -122,6 +122,29 @@ TEST_F(PageTest, TheListScrollsAlongItsRows) {
     EXPECT_TRUE(
         comesTrue([&] { return list.verticalScrollBar()->value() < list.verticalScrollBar()->maximum(); }));
     EXPECT_EQ(page().Files.row(), 40);
+}
+
+TEST_F(PageTest, TheTapeIsPrintedIntoAFile) {
+    ASSERT_TRUE(comesTrue([&] { return !page().allprint.rows.empty(); }));
+    hands.stroke({keys::keypad5, keys::keypadAdd});
+    open();
+    pressWith(keys::alt, letterO);
+    ASSERT_TRUE(comesTrue([&] { return page().Frame8.visible; }));
+    program.keys.run([&] { page().allprint.choose(int(page().allprint.rows.size())); });
+    EXPECT_TRUE(page().allprint.is(u"Print to File (PDF)"));
+    pressWith(keys::alt, letterZ);
+    const auto answering = [&](int key) {
+        whenAWindowOpens([this, key](QWidget&) { hands.stroke({keys::keypad7, key}); });
+        pressWith(keys::alt, keys::letterR);
+    };
+    answering(keys::escape);
+    EXPECT_TRUE(
+        comesTrue([&] { return view.isActiveWindow() && program.pultform.focus() != &state().eingabe; }));
+    EXPECT_TRUE(page().blende.visible);
+    letPass(50);
+    answering(keys::enter);
+    ASSERT_TRUE(comesTrue([&] { return !page().blende.visible; }));
+    EXPECT_TRUE(folder.bytes("7.pdf").starts_with("%PDF") || folder.bytes("7").starts_with("%PDF"));
 }
 
 TEST_F(PageTest, AnotherProgramFindsEachResult) {

@@ -1,0 +1,50 @@
+#include "platform/headless/headless_printer.h"
+
+#include "platform/font_size.h"
+#include "platform/headless/quoted.h"
+
+namespace zifferon {
+
+void HeadlessPrinter::addPrinter(const Text& name) {
+    if (printers_.empty()) current_ = name;
+    printers_.push_back(name);
+}
+
+void HeadlessPrinter::beginAnew() { current_ = printers_.empty() ? Text() : printers_.front(); }
+
+void HeadlessPrinter::setPrinter(TextView name) {
+    call("printer " + quoted(name));
+    current_ = name;
+}
+
+void HeadlessPrinter::setFontName(TextView name) { call("font " + quoted(name)); }
+
+void HeadlessPrinter::setFontSize(TextView points) {
+    const auto size = fontSizeOf(points);
+    call("size " + (size ? std::to_string(*size) : quoted(points)), !size);
+}
+
+void HeadlessPrinter::setFontBold(bool bold) { call(bold ? "bold true" : "bold false"); }
+
+void HeadlessPrinter::setFontItalic(bool italic) { call(italic ? "italic true" : "italic false"); }
+
+void HeadlessPrinter::setLeft(int twips) { call("left " + std::to_string(twips)); }
+
+void HeadlessPrinter::print(TextView text) { call("text " + quoted(text)); }
+
+void HeadlessPrinter::paintPicture(TextView name, int left, int top) {
+    call("picture " + toUtf8(name) + ' ' + std::to_string(left) + ' ' + std::to_string(top));
+}
+
+void HeadlessPrinter::endDoc() { call("end"); }
+
+void HeadlessPrinter::call(std::string line, bool fails) {
+    if (callsToFault_ > 0 && --callsToFault_ == 0) fails = true;
+    if (fails || printers_.empty()) {
+        tell_("print " + line + " -> fails");
+        throw PrintFailure();
+    }
+    tell_("print " + line);
+}
+
+}  // namespace zifferon

@@ -1,0 +1,15 @@
+// The printers by name.
+#pragma once
+
+#include "platform/combo_box.h"
+#include "platform/print_device.h"
+
+namespace zifferon {
+
+// Adds the printers to the rows of a combo box, and chooses the current one.
+void GetPrinters(ComboBox& combo, PrintDevice& device);
+
+// Makes the printer of that name the current one; false where there is none. Throws PrintFailure.
+bool selectPrinter(TextView name, PrintDevice& device);
+
+}  // namespace zifferon

@@ -38,7 +38,7 @@ void HeadlessPrinter::paintPicture(TextView name, int left, int top) {
 
 void HeadlessPrinter::endDoc() { call("end"); }
 
-void HeadlessPrinter::call(std::string line, bool fails) {
+void HeadlessPrinter::call(const std::string& line, bool fails) {
     if (callsToFault_ > 0 && --callsToFault_ == 0) fails = true;
     if (fails || printers_.empty()) {
         tell_("print " + line + " -> fails");

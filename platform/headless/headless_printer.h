@@ -39,7 +39,7 @@ class HeadlessPrinter : public PrintDevice {
     void drop() override {}
 
   private:
-    void call(std::string line, bool fails = false);
+    void call(const std::string& line, bool fails = false);
 
     std::function<void(std::string)> tell_;
     std::vector<Text> printers_, fonts_;

@@ -201,7 +201,7 @@ std::optional<std::string> propertyOf(const Control& control, std::string_view p
         return propertyOf(list->rows(), list->row(), property);
     }
     if (const auto* const combo = dynamic_cast<const ComboBox*>(&control)) {
-        if (const auto found = propertyOf(combo->rows, combo->row(), property)) return found;
+        if (auto found = propertyOf(combo->rows, combo->row(), property)) return found;
     }
     if (const auto* const field = dynamic_cast<const TextField*>(&control)) {
         if (property == "text") return render(field->text());

@@ -1,5 +1,6 @@
 #include "help/help_window.h"
 
+#include "help/addresses.h"
 #include "platform/key.h"
 
 namespace zifferon {
@@ -62,7 +63,8 @@ void HelpWindow::addTexts() {
     Text6.font.bold = true;
     addText(Text1, u"Text1", 5655, u"Tischrechner mit virtuellem Rechenstreifen");
     addText(Text3, u"Text3", 6000, u"Desktop calculator with a virtual paper tape");
-    addText(Text8, u"Text8", 6345, u"www.zifferon-pro.example");
+    addText(Text8, u"Text8", 6345, webSiteName);
+    Text6.onDoubleClick = [this] { showPuzzleButton(); };
     Text1.onGotFocus = [this] { setFocus(Picture1); };
 }
 
@@ -75,10 +77,24 @@ void HelpWindow::addButtons() {
             if (isConfirmation(std::exchange(character, u'\0'))) button.click();
         };
     };
-    addButton(Command5, u"Command5", {4140, 5160, 3525, 480});
+    addButton(puzzle1, u"puzzle1", {4350, 1712, 605, 375});
+    puzzle1.picture = u"puzzle_button";
+    puzzle1.accessibleName = u"Puzzle";
+    puzzle1.visible = false;
+    puzzle1.onMouseUp = [this] { setFocus(Command1); };
+    addButton(Command5, u"Command5", {4140, 5160, 2340, 480});
+    addButton(printhelp, u"printhelp", {6570, 5160, 525, 480});
+    addButton(Command4, u"Command4", {7140, 5160, 525, 480});
+    printhelp.picture = u"printer";
+    Command4.picture = u"letter";
     addButton(Command3, u"Command3", {4140, 5730, 1710, 480});
     addButton(Command2, u"Command2", {5955, 5730, 1710, 480});
-    addButton(Command1, u"Command1", {4140, 6300, 3525, 480});
+    addButton(Command1, u"Command1", {4140, 6300, 2340, 480});
+    add(Picture2, u"Picture2");
+    Picture2.place = {6570, 6300, 1095, 480};
+    Picture2.picture = u"web_site";
+    Picture2.accessibleName = webSiteName;
+    Picture2.toolTip = webSiteName;
     Command3.caption = u"Deutsch";
     Command3.picture = u"flag_de";
     Command2.caption = u"English";
@@ -93,6 +109,10 @@ void HelpWindow::setCaptions(Language language) {
 
 void HelpWindow::setTitle(Language language) {
     caption = Words{u"Zifferon PRO 5.0 - Hilfe", u"Zifferon PRO 5.0 - Help"}.in(language);
+    printhelp.toolTip = Words{u"Kurzanleitung ausdrucken", u"Print Quick Reference"}.in(language);
+    Command4.toolTip = Words{u"E-Mail", u"email"}.in(language);
+    printhelp.accessibleName = printhelp.toolTip;
+    Command4.accessibleName = Command4.toolTip;
 }
 
 void HelpWindow::showReference(Language language) {

@@ -21,7 +21,7 @@ void Printing::printTape() {
 void Printing::print() {
     c.stripes.show();
     p.device.language = s.language;
-    try {
+    const auto job = [this] {
         const Text savedPrinterName = p.device.deviceName();
         selectPrinter(c.allprint.text(), p.device);
         p.preview.hide();
@@ -29,13 +29,8 @@ void Printing::print() {
         if (proceeds) printDocument(p.device, p.kopf, s.superdruck.text(), c.druckcomb.text());
         selectPrinter(savedPrinterName, p.device);
         if (proceeds) p.page.leave();
-    } catch (const PrintStopped&) {
-        p.device.drop();
-    } catch (const PrintFailure&) {
-        p.device.drop();
-        c.druckblende.visible = false;
-        p.messages.fail({u"Druckerfehler!   ", u"Printing error!   "});
-    }
+    };
+    runPrintJob(p.device, p.messages, job, [this] { c.druckblende.visible = false; });
 }
 
 bool Printing::wantsEmptyTape() const {

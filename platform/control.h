@@ -31,7 +31,7 @@ struct Font {
 
 enum class Alignment { left, right, centre };
 
-enum class ControlKind { textField, label, button, checkBox, frame, picture, list, comboBox };
+enum class ControlKind { textField, label, button, checkBox, frame, picture, list, comboBox, menu };
 
 // One row of the menu that the right mouse button opens on a control.
 struct MenuEntry {
@@ -60,12 +60,14 @@ class Control {
     bool flat = false;               // a button that is not drawn
     const Control* frame = nullptr;  // the frame that it lies in and is hidden with; null: the window
     bool takesFocus = false;         // a click gives it the focus
+    bool draggable = false;          // the mouse takes it along, and it goes home when it is let go
     Colour foreColour{0, 0, 0};
     Colour backColour{192, 192, 192};
     Font font;
     Alignment alignment = Alignment::left;
 
     std::function<void()> onClick, onDoubleClick, onMouseDown, onMouseUp, onMouseMove;
+    std::function<void(Control& dropped)> onDrop;  // another control has been let go over it
     std::function<void()> onGotFocus, onLostFocus;
     std::function<void(int& code)> onKeyDown;             // a handler may change the code, 0 stops the field
     std::function<void(char16_t& character)> onKeyPress;  // likewise: 0 eats, 8 makes a Backspace of it

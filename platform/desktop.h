@@ -36,8 +36,9 @@ class Desktop {
     // A second start waits from now on for the end of this one.
     virtual void endSummons() = 0;
 
-    // Opens a file of the program folder with the program that the desktop has for it. A failure is silent.
-    virtual void openDocument(const std::string& fileName) = 0;
+    // Opens a file of the program folder, or a web page, with the program that the desktop has for it. A
+    // failure is silent.
+    virtual void openDocument(const std::string& target) = 0;
 };
 
 }  // namespace zifferon

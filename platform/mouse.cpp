@@ -21,8 +21,9 @@ bool takesMouse(const Control& control) {
     return control.shown() && (control.enabled || control.kind != ControlKind::label);
 }
 
+// With the menu bar, which lies above the origin.
 Place clientArea(const Window& window) {
-    return {0, 0, window.place.width - (window.framed ? frameWidth : 0),
+    return {0, -window.menuHeight(), window.place.width - (window.framed ? frameWidth : 0),
             window.place.height - (window.framed ? frameHeight : 0)};
 }
 
@@ -53,5 +54,19 @@ void mouseRelease(KeyRoad& keys, Control& control) {
 void mouseDoubleClick(KeyRoad& keys, Control& control) { keys.run(control.onDoubleClick); }
 
 void mouseMove(KeyRoad& keys, Control& control) { keys.run(control.onMouseMove); }
+
+Control* dropField(const Window& window, const Control& piece, int left, int top) {
+    const auto& controls = window.controls();
+    const auto field = std::find_if(controls.rbegin(), controls.rend(), [&](const Control* control) {
+        return control != &piece && takesMouse(*control) && contains(control->place, {left, top});
+    });
+    return field != controls.rend() && (*field)->onDrop ? *field : nullptr;
+}
+
+void mouseDrop(KeyRoad& keys, Control& piece, Control& field) {
+    keys.run([&] {
+        if (field.onDrop) field.onDrop(piece);
+    });
+}
 
 }  // namespace zifferon

@@ -22,4 +22,10 @@ void mouseDoubleClick(KeyRoad& keys, Control& control);
 
 void mouseMove(KeyRoad& keys, Control& control);
 
+// The control that takes `piece` when it is let go at a point of the window's client area, in twips: the
+// topmost other one that the mouse can get at there. Null where that takes nothing.
+Control* dropField(const Window& window, const Control& piece, int left, int top);
+
+void mouseDrop(KeyRoad& keys, Control& piece, Control& field);
+
 }  // namespace zifferon

@@ -1,10 +1,22 @@
 #include "platform/posix_system.h"
 
+#include <unistd.h>
+
+#include <array>
+
+namespace zifferon {
+
+Text PosixSystem::computerName() const {
+    std::array<char, 256> name{};  // as many bytes as a name can have, and its end
+    return ::gethostname(name.data(), name.size() - 1) == 0 ? fromUtf8(name.data()) : Text();
+}
+
+}  // namespace zifferon
+
 #ifdef ZIFFERON_WITH_ICU
 
 #include <unicode/uloc.h>
 
-#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>

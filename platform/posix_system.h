@@ -20,6 +20,11 @@ class PosixSystem : public System {
     Text shortDateTime(std::chrono::system_clock::time_point moment) const override {
         return dateTimeText(moment, GetDecStyle());
     }
+    std::chrono::system_clock::time_point now() const override { return std::chrono::system_clock::now(); }
+    std::uint32_t randomSeed() const override {
+        return static_cast<std::uint32_t>(now().time_since_epoch().count());
+    }
+    Text computerName() const override;
     int captionHeight() const override { return 19; }
 };
 

@@ -22,6 +22,16 @@ class PrintStopped : public std::exception {
     const char* what() const noexcept override { return "print stopped"; }
 };
 
+enum class Orientation { upright = 1, across = 2 };
+
+// A picture of the program on a page.
+struct PrintedPicture {
+    TextView name;          // as the program calls it
+    TextView drawing;       // name of the file
+    int left = 0, top = 0;  // its upper left corner, in twips from that of the printable area
+    double share = 0;       // of the greatest size that it can have from there; 0: its own size
+};
+
 class PrintDevice {
   public:
     virtual ~PrintDevice() = default;
@@ -61,12 +71,18 @@ class PrintDevice {
     // PrintStopped.
     virtual void print(TextView text) = 0;
 
-    // Paints a picture of the program with its upper left corner at a place of the page, in twips.
-    virtual void paintPicture(TextView name, int left, int top) = 0;
+    virtual void paintPicture(const PrintedPicture& picture) = 0;
+
+    // The direction of the pages, from the next document on.
+    virtual void setOrientation(Orientation orientation) = 0;
+
+    // Where the next line starts, in twips from the left edge set before and from the upper edge.
+    virtual void setCurrentX(int twips) = 0;
+    virtual void setCurrentY(int twips) = 0;
 
     virtual void endDoc() = 0;
 
-    // Forgets the unfinished document; the next one begins anew, with its font. Never fails.
+    // Forgets the unfinished document; the next one begins anew, with its font, and upright. Never fails.
     virtual void drop() = 0;
 };
 

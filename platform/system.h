@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <string>
 
 #include "platform/text.h"
@@ -24,6 +25,14 @@ class System {
 
     // A moment as short date and time of day, in the form of the user's locale and in local time.
     virtual Text shortDateTime(std::chrono::system_clock::time_point moment) const = 0;
+
+    virtual std::chrono::system_clock::time_point now() const = 0;
+
+    // What random numbers begin with: another at each moment.
+    virtual std::uint32_t randomSeed() const = 0;
+
+    // The name of the machine in its network, "" where it has none.
+    virtual Text computerName() const = 0;
 
     // The height of a window's caption in pixels, of which 19 need no correction of a window's height.
     virtual int captionHeight() const = 0;

@@ -15,6 +15,9 @@ namespace zifferon {
 // What a window's frame and caption take of its place, in twips: 3 pixels each side, and a caption of 19.
 constexpr int frameWidth = 90, frameHeight = 375;
 
+// A menu bar pushes all other controls down by so much; its one entry has its place above them.
+constexpr int menuBarHeight = 285;
+
 class Window {
   public:
     Window() = default;
@@ -27,6 +30,7 @@ class Window {
     Place place;  // with frame and caption, in twips
     bool visible = false;
     Colour backColour{192, 192, 192};
+    Text icon;  // name of the drawing; empty: the program's
 
     bool alwaysOnTop = false;
     bool minimised = false;
@@ -35,6 +39,10 @@ class Window {
 
     std::function<void()> onMouseMove;  // over the window itself
     std::function<void()> onActivate;   // it has become the one in use
+
+    // The entry of its menu bar, if it has one. The bar takes its room only while the entry is visible.
+    Control* menu = nullptr;
+    int menuHeight() const { return menu != nullptr && menu->visible ? menuBarHeight : 0; }
 
     // Where the Tab key goes, in this order; it does nothing where the focus is none of them.
     std::vector<Control*> tabOrder;

@@ -21,7 +21,7 @@ class Document {
 
     void print(TextView tape, TextView typeSetting) {
         const bool letterhead = k.checkstamm.ticked();
-        if (k.logo.ticked() && letterhead) device_.paintPicture(u"logpic", 0, 0);
+        if (k.logo.ticked() && letterhead) device_.paintPicture({.name = u"logpic", .drawing = u"logpic"});
         device_.setFontName(tapeFont);
         device_.setFontBold(true);
         device_.setFontItalic(false);
@@ -130,6 +130,19 @@ class Document {
 
 void printDocument(PrintDevice& device, const Kopf& kopf, TextView tape, TextView typeSetting) {
     Document(device, kopf).print(tape, typeSetting);
+}
+
+void runPrintJob(PrintDevice& device, const Messages& messages, const std::function<void()>& job,
+                 const std::function<void()>& failed) {
+    try {
+        job();
+    } catch (const PrintStopped&) {
+        device.drop();
+    } catch (const PrintFailure&) {
+        device.drop();
+        failed();
+        messages.fail({u"Druckerfehler!   ", u"Printing error!   "});
+    }
 }
 
 }  // namespace zifferon

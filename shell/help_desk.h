@@ -1,6 +1,7 @@
 // The help window over the main one, and the change of the language in it.
 #pragma once
 
+#include "adventure/puzzle.h"
 #include "help/help_window.h"
 #include "platform/machine.h"
 #include "print/kopf.h"
@@ -11,8 +12,16 @@ namespace zifferon {
 
 class HelpDesk {
   public:
-    HelpDesk(Pultform& window, Kopf& kopf, HelpWindow& help, Machine& machine, const Messages& messages,
-             const Settings& settings);
+    struct Parts {
+        Pultform& window;
+        Kopf& kopf;
+        HelpWindow& help;
+        Puzzle& puzzle;
+        Machine& machine;
+        const Messages& messages;
+        const Settings& settings;
+    };
+    explicit HelpDesk(const Parts& parts) : p(parts), s(p.window.state) {}
 
     void wire();
 
@@ -24,14 +33,12 @@ class HelpDesk {
     void activated();
     void keepMainWindowBehind();
     void changeLanguage(Language language);
+    void openPage(Words address) const;
+    void askToPrint();
+    void openPuzzle();
 
-    Pultform& window_;
-    Kopf& kopf_;
-    HelpWindow& help_;
-    Machine& machine_;
+    const Parts p;
     CalculatorState& s;
-    const Messages& messages_;
-    const Settings& settings_;
 };
 
 }  // namespace zifferon

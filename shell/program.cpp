@@ -17,7 +17,9 @@ Program::Program(Machine& ofTheProgram)
       sounds(pultform, machine.sound),
       options(pultform, clipboard),
       startUp(pultform.state, separator, kopf, quickFile, modes, machine, messages),
-      tray(pultform, machine),
+      secretform(pultform, pultform.state.language, messages, machine),
+      hotSpot(pultform, secretform, messages),
+      tray(pultform, secretform, machine),
       ending(pultform, undo, tray, machine, messages),
       firstActivation({pultform, kopf, keys, undo, modes, colours, options, startUp, tray, machine.files}),
       files(pultform.page.Files, machine.files),
@@ -30,7 +32,8 @@ Program::Program(Machine& ofTheProgram)
           {pultform.state, pultform.page, preview, kopf, letterhead, pultform, machine, settings, messages}),
       page({pultform.state, pultform.page, files, preview, printOptions, pultform, settings}),
       printing({pultform.state, pultform.page, preview, page, kopf, machine.printer, messages}),
-      helpDesk(pultform, kopf, help, machine, messages, settings),
+      puzzle(pultform.state.memo[0], pultform.state.language, messages, machine),
+      helpDesk({pultform, kopf, help, puzzle, machine, messages, settings}),
       actions({pultform, separator, undo, modes, colours, sounds, ending, printing, settings, messages}),
       commands{pultform.state, memory, pultform, messages, actions},
       desk(pultform, commands, undo, clipboard, sounds),
@@ -50,6 +53,7 @@ Program::Program(Machine& ofTheProgram)
     printing.wire();
     page.wire();
     helpDesk.wire();
+    hotSpot.wire();
     editing.wire();
 }
 
@@ -87,7 +91,7 @@ void Program::beginFresh() {
 }
 
 std::vector<Window*> Program::windows() {
-    std::vector<Window*> all = {&pultform, &kopf, &help};
+    std::vector<Window*> all = {&pultform, &kopf, &help, &puzzle, &secretform};
     for (Window* const window : startUp.windows()) all.push_back(window);
     if (undo.message() != nullptr) all.push_back(undo.message());
     if (ending.goodbye() != nullptr) all.push_back(ending.goodbye());

@@ -13,6 +13,7 @@
 #include "shell/edit_commands.h"
 #include "shell/first_activation.h"
 #include "shell/help_desk.h"
+#include "shell/hot_spot.h"
 #include "shell/option_boxes.h"
 #include "shell/rule_calls.h"
 
@@ -51,6 +52,8 @@ class Program {
     Sounds sounds;
     OptionBoxes options;
     StartUp startUp;
+    SecretForm secretform;
+    HotSpot hotSpot;
     Tray tray;
     Ending ending;
     FirstActivation firstActivation;
@@ -62,6 +65,7 @@ class Program {
     PrintOptions printOptions;
     TapePage page;
     Printing printing;
+    Puzzle puzzle;
     HelpDesk helpDesk;
     CommandActions actions;
     CommandDesk commands;

@@ -10,6 +10,7 @@ Pultform::Pultform() {
     add(Timer2, u"Timer2");
     add(page.Timer3, u"Timer3");
     add(minitimer, u"minitimer");
+    add(timersecret, u"timersecret");
     add(page.stripes.timerraster, u"timerraster");
     add(state.errortimer, u"errortimer");
     add(state.messtimer, u"messtimer");

@@ -25,10 +25,10 @@ class Pultform : public Window {
     Control Frame4{ControlKind::picture};  // the memory labels; it has no line around it
     std::array<Control, 5> memoLabels{Control{ControlKind::label}, Control{ControlKind::label},
                                       Control{ControlKind::label}, Control{ControlKind::label},
-                                      Control{ControlKind::label}};  // Label3 to Label7: "M1" to "M5"
-    Control Picture1{ControlKind::picture};
+                                      Control{ControlKind::label}};        // Label3 to Label7: "M1" to "M5"
+    Control Picture1{ControlKind::picture}, Image1{ControlKind::picture};  // the picture, and birds on it
     Control Command3{ControlKind::button}, Hilfe{ControlKind::button}, cmdexit{ControlKind::button};
-    Timer Timer2, minitimer;
+    Timer Timer2, minitimer, timersecret;
     Control nixspez{ControlKind::button};  // the blind button beside spezrnd
     QuickButtons quick;
     PageControls page;

@@ -86,6 +86,7 @@ std::vector<Row> desktop(Pultform& w) {
          .place = {5700, 120, 2295, 2325},
          .spoken = {u"Schreibtisch am Fenster", u"Desk at the window"},
          .picture = u"desk"},
+        {.control = w.Image1, .name = u"Image1", .place = {6850, 1080, 200, 135}, .frame = &w.Picture1},
         {.control = w.state.anzeige,
          .name = u"anzeige",
          .place = {120, 120, 5430, 5535},

@@ -30,6 +30,7 @@ void Tray::closed() {
 }
 
 void Tray::hide() {
+    riddle_.unload();
     restorePlace_ = window_.place;
     if (inTray_) return;
     if (!machine_.desktop.hasTray()) {

@@ -1,6 +1,7 @@
 // The window's ways out of sight and back: close box, tray, hot key, and a start that begins in the tray.
 #pragma once
 
+#include "adventure/secret_form.h"
 #include "platform/machine.h"
 #include "shell/pultform.h"
 
@@ -8,7 +9,8 @@ namespace zifferon {
 
 class Tray {
   public:
-    Tray(Pultform& window, Machine& machine) : window_(window), s(window.state), machine_(machine) {}
+    Tray(Pultform& window, SecretForm& riddle, Machine& machine)
+        : window_(window), riddle_(riddle), s(window.state), machine_(machine) {}
 
     // From now on the hot key is the program's.
     void wire();
@@ -38,6 +40,7 @@ class Tray {
     void minitimerTick();
 
     Pultform& window_;
+    SecretForm& riddle_;
     const CalculatorState& s;
     Machine& machine_;
     Place restorePlace_;

@@ -57,7 +57,9 @@ BoxAnswer unasked(BoxButtons buttons) { return buttons == BoxButtons::ok ? BoxAn
 void HeadlessMachine::beginAnew() {
     due_.clear();
     shown_.clear();
-    mainWindow_ = nullptr;
+    mainWindow_ = {};
+    beside_.clear();
+    activationDue_ = false;
     trayIcon_ = false;
     events_.clear();
     onHotKey = onTrayDoubleClick = onTrayShow = onTrayExit = onSessionEnd = nullptr;
@@ -115,30 +117,54 @@ class InModal {
 }  // namespace
 
 void HeadlessMachine::showModal(Window& window) {
-    show(window);
+    open(window);
     if (window.visible && window.onAnswer) window.onAnswer(takeAnswer(BoxAnswer::ok));
     if (window.visible) {
         KeyRoad keys(window, [this] { beep(); });
         const InModal inModal(modals_, {&window, &keys});
         whileModal(window);
     }
+    closed(window);
+}
+
+void HeadlessMachine::closed(const Window& window) {
     std::erase(shown_, &window);
     tellOf(window, "hidden");
-    Window* const below = modals_.empty() ? mainWindow_ : modals_.back().window;
-    if (below != nullptr && below->visible && below->onActivate) below->onActivate();
+    activationDue_ = true;
+}
+
+void HeadlessMachine::settleActivation() {
+    if (!std::exchange(activationDue_, false)) return;
+    const InUse below = inUse();
+    if (below.window != nullptr && below.window->visible) below.keys->run(below.window->onActivate);
+}
+
+HeadlessMachine::InUse HeadlessMachine::inUse() const {
+    if (!modals_.empty()) return modals_.back();
+    for (auto window = shown_.rbegin(); window != shown_.rend() && *window != mainWindow_.window; ++window) {
+        const auto road = beside_.find(*window);
+        if (road != beside_.end()) return {*window, road->second.get()};
+    }
+    return mainWindow_;
 }
 
 void HeadlessMachine::show(Window& window) {
+    if (&window != mainWindow_.window && !beside_.contains(&window)) {
+        beside_[&window] = std::make_unique<KeyRoad>(window, [this] { beep(); });
+    }
+    open(window);
+}
+
+void HeadlessMachine::open(Window& window) {
     if (std::exchange(window.visible, true)) return;
     shown_.push_back(&window);
     tellOf(window, "shown");
     if (window.onActivate) window.onActivate();
+    activationDue_ = false;
 }
 
 void HeadlessMachine::hide(Window& window) {
-    if (!std::exchange(window.visible, false)) return;
-    std::erase(shown_, &window);
-    tellOf(window, "hidden");
+    if (std::exchange(window.visible, false)) closed(window);
 }
 
 void HeadlessMachine::hideAll() {
@@ -173,10 +199,9 @@ void HeadlessMachine::end() {
     throw ProcessEnded();
 }
 
-void HeadlessMachine::wait(std::int64_t milliseconds, Window& window, KeyRoad& keys) {
+void HeadlessMachine::wait(std::int64_t milliseconds) {
     const std::int64_t until = now_ + milliseconds;
-    while (tickNext({&window, &keys}, until)) {
-    }
+    while (tickNext(until)) settleActivation();
     now_ = until;
 }
 
@@ -185,11 +210,12 @@ bool HeadlessMachine::before(const Due& a, const Due& b) {
     return a.at != b.at ? a.at < b.at : a.arming < b.arming;
 }
 
-bool HeadlessMachine::tickNext(InUse mainWindow, std::int64_t until) {
+bool HeadlessMachine::tickNext(std::int64_t until) {
     Timer* next = nullptr;
     KeyRoad* keys = nullptr;
     std::vector<InUse> windows = modals_;
-    windows.push_back(mainWindow);
+    windows.push_back(mainWindow_);
+    if (!modalOpen() && inUse().window != mainWindow_.window) windows.push_back(inUse());
     for (const InUse& inUse : windows) {
         followTimers(*inUse.window);
         for (Timer* timer : inUse.window->timers()) {

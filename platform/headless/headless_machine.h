@@ -6,6 +6,7 @@
 #include <deque>
 #include <exception>
 #include <functional>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <unordered_map>
@@ -61,9 +62,9 @@ class HeadlessMachine : public Boxes,
     // A new program on the same machine: no timer of the former one is due, and the clipboard is empty.
     void beginAnew();
 
-    // Lets virtual time pass; the timers of the main window and of modal ones tick in order, each through the
-    // key road of its window.
-    void wait(std::int64_t milliseconds, Window& window, KeyRoad& keys);
+    // Lets virtual time pass; the timers of all windows in use tick in order, each through the key road of
+    // its window.
+    void wait(std::int64_t milliseconds);
 
     // The clock begins at that moment, and wait moves it.
     void setClock(std::chrono::system_clock::time_point now) {
@@ -71,19 +72,25 @@ class HeadlessMachine : public Boxes,
     }
     std::chrono::system_clock::time_point now() const { return clock_ + std::chrono::milliseconds(now_); }
 
-    // The window that is in use where no modal one is open: when the last of those closes, it is told.
-    void setMainWindow(Window* window) { mainWindow_ = window; }
+    // The window that is in use where no other one is, and its key road.
+    void setMainWindow(Window& window, KeyRoad& keys) { mainWindow_ = {&window, &keys}; }
 
     // A modal window that no answer closes stays open until this returns; it returns when the window is no
     // longer visible.
     std::function<void(const Window& window)> whileModal;
 
-    // The modal window that alone takes keys and the mouse, and its key road; null where there is none.
     struct InUse {
         Window* window = nullptr;
         KeyRoad* keys = nullptr;
     };
-    InUse modal() const { return modals_.empty() ? InUse{} : modals_.back(); }
+
+    // The window that takes keys and the mouse: the modal one on top, else the one that was shown last.
+    InUse inUse() const;
+    bool modalOpen() const { return !modals_.empty(); }
+
+    // Tells the window below one that has closed, if any, that it is in use now. The handler that closed the
+    // one above has come to its end before.
+    void settleActivation();
 
     BoxAnswer show(const Box& box) override;
     void clear() override;
@@ -115,7 +122,9 @@ class HeadlessMachine : public Boxes,
 
     static bool before(const Due& a, const Due& b);
     void followTimers(const Window& window);
-    bool tickNext(InUse mainWindow, std::int64_t until);
+    bool tickNext(std::int64_t until);
+    void open(Window& window);
+    void closed(const Window& window);
     void tell(std::string event);
     void tellOf(const Window& window, const char* what);
     BoxAnswer takeAnswer(BoxAnswer unasked);
@@ -129,9 +138,11 @@ class HeadlessMachine : public Boxes,
     std::int64_t now_ = 0;                         // milliseconds
     std::chrono::system_clock::time_point clock_;  // when they began
     std::unordered_map<const Timer*, Due> due_;
-    Window* mainWindow_ = nullptr;
+    InUse mainWindow_;
     std::vector<Window*> shown_;
-    std::vector<InUse> modals_;  // each above those before it
+    std::vector<InUse> modals_;                                           // each above those before it
+    std::unordered_map<const Window*, std::unique_ptr<KeyRoad>> beside_;  // of windows beside the main one
+    bool activationDue_ = false;
 };
 
 }  // namespace zifferon

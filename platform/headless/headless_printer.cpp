@@ -32,9 +32,18 @@ void HeadlessPrinter::setLeft(int twips) { call("left " + std::to_string(twips))
 
 void HeadlessPrinter::print(TextView text) { call("text " + quoted(text)); }
 
-void HeadlessPrinter::paintPicture(TextView name, int left, int top) {
-    call("picture " + toUtf8(name) + ' ' + std::to_string(left) + ' ' + std::to_string(top));
+void HeadlessPrinter::paintPicture(const PrintedPicture& picture) {
+    call("picture " + toUtf8(picture.name) + ' ' + std::to_string(picture.left) + ' ' +
+         std::to_string(picture.top));
 }
+
+void HeadlessPrinter::setOrientation(Orientation orientation) {
+    call("orientation " + std::to_string(static_cast<int>(orientation)));
+}
+
+void HeadlessPrinter::setCurrentX(int twips) { call("currentx " + std::to_string(twips)); }
+
+void HeadlessPrinter::setCurrentY(int twips) { call("currenty " + std::to_string(twips)); }
 
 void HeadlessPrinter::endDoc() { call("end"); }
 

@@ -34,7 +34,10 @@ class HeadlessPrinter : public PrintDevice {
     void setFontItalic(bool italic) override;
     void setLeft(int twips) override;
     void print(TextView text) override;
-    void paintPicture(TextView name, int left, int top) override;
+    void paintPicture(const PrintedPicture& picture) override;
+    void setOrientation(Orientation orientation) override;
+    void setCurrentX(int twips) override;
+    void setCurrentY(int twips) override;
     void endDoc() override;
     void drop() override {}
 

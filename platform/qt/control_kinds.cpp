@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QSvgRenderer>
+#include <QToolButton>
 
 #include "platform/qt/control_view.h"
 #include "platform/qt/form_view.h"
@@ -62,6 +63,12 @@ QPushButton* newPushButton(const Control& control, FormView& form) {
     auto* const button = new QPushButton(&form);
     button->setFlat(control.flat);
     return button;
+}
+
+QToolButton* newMenu(FormView& form) {
+    auto* const menu = new QToolButton(&form);
+    menu->setAutoRaise(true);
+    return menu;
 }
 
 class CheckBoxView : public ButtonView {
@@ -192,6 +199,8 @@ std::unique_ptr<ControlView> makeControlView(Control& control, FormView& form) {
             return std::make_unique<PictureView>(control, form);
         case ControlKind::list:
             return makeListView(static_cast<ListBox&>(control), form);
+        case ControlKind::menu:
+            return std::make_unique<ButtonView>(control, *newMenu(form), form);
         case ControlKind::comboBox:
             return makeComboView(static_cast<ComboBox&>(control), form);
     }

@@ -49,7 +49,7 @@ ControlView::ControlView(Control& control, QWidget& widget, QWidget& surface, Fo
 }
 
 void ControlView::refresh() {
-    if (differs(place_, control_.place)) widget_.setGeometry(pixels(control_.place));
+    refreshPlace();
     if (differs(font_, control_.font)) widget_.setFont(fontOf(control_.font));
     const bool newForeColour = differs(foreColour_, control_.foreColour);
     if (differs(backColour_, control_.backColour) || newForeColour) refreshColours();
@@ -65,6 +65,14 @@ void ControlView::refresh() {
                              control_.kind == ControlKind::label && !control_.enabled);
     }
     if (differs(visible_, control_.shown())) widget_.setVisible(*visible_);
+}
+
+// While it is dragged the mouse alone moves it.
+void ControlView::refreshPlace() {
+    if (grip_) return;
+    Place place = control_.place;
+    place.top += form_.window().menuHeight();
+    if (differs(place_, place)) widget_.setGeometry(pixels(place));
 }
 
 void ControlView::refreshColours() {
@@ -88,8 +96,8 @@ void ControlView::refreshColours() {
 bool ControlView::eventFilter(QObject* surface, QEvent* event) {
     // Buttons, check boxes and combo boxes need the mouse for their own look, and tell of their clicks
     // themselves, whether these come by mouse or by a screen reader. Nothing else does: an event ends here.
-    const bool button = control_.kind == ControlKind::button || control_.kind == ControlKind::checkBox ||
-                        control_.kind == ControlKind::comboBox;
+    const bool button = control_.kind == ControlKind::button || control_.kind == ControlKind::menu ||
+                        control_.kind == ControlKind::checkBox || control_.kind == ControlKind::comboBox;
     const auto position = [event] { return static_cast<QMouseEvent*>(event)->position().toPoint(); };
     switch (event->type()) {
         case QEvent::MouseButtonPress:
@@ -101,14 +109,25 @@ bool ControlView::eventFilter(QObject* surface, QEvent* event) {
                 mousePress(form_.window(), form_.keys(), control_);
                 mousePressed(position());
             });
+            if (control_.draggable && clickPending_) {
+                grip_ = position();
+                widget_.raise();
+            }
             return !button;
         case QEvent::MouseMove:
-            if (static_cast<QMouseEvent*>(event)->buttons() & Qt::LeftButton) mouseDragged(position());
+            if (grip_) widget_.move(widget_.pos() + position() - *grip_);
+            if (static_cast<QMouseEvent*>(event)->buttons() & Qt::LeftButton) {
+                mouseDragged(position());
+            } else if (grip_.has_value()) {
+                grip_.reset();  // let go where nobody told it, as behind a box
+                place_.reset();
+            }
             form_.act([&] { mouseMove(form_.keys(), control_); });
             return !button;
         case QEvent::MouseButtonRelease: {
             const bool inside = static_cast<QWidget*>(surface)->rect().contains(position());
             const bool clicks = std::exchange(clickPending_, false) && inside;
+            if (grip_) drop();
             if (clicks) {
                 form_.act([&] { mouseRelease(form_.keys(), control_); });
             } else {
@@ -126,6 +145,17 @@ bool ControlView::eventFilter(QObject* surface, QEvent* event) {
         default:
             return false;
     }
+}
+
+// What takes it lies under the mouse; in any case it goes home.
+void ControlView::drop() {
+    const QPoint mouse = (widget_.pos() + *std::exchange(grip_, {})) * twipsPerPixel;
+    place_.reset();
+    form_.act([&] {
+        const Window& window = form_.window();
+        Control* const field = dropField(window, control_, mouse.x(), mouse.y() - window.menuHeight());
+        if (field != nullptr) mouseDrop(form_.keys(), control_, *field);
+    });
 }
 
 }  // namespace zifferon

@@ -47,12 +47,15 @@ class ControlView : public QObject {
 
   private:
     bool eventFilter(QObject* surface, QEvent* event) override;
+    void refreshPlace();
     void refreshColours();
+    void drop();
 
     Control& control_;
     QWidget& widget_;
     FormView& form_;
     bool clickPending_ = false;
+    std::optional<QPoint> grip_;  // where the mouse has taken hold of it to drag it
 
     // What the widget shows.
     std::optional<Place> place_;

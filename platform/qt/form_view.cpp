@@ -233,6 +233,7 @@ void FormView::paintEvent(QPaintEvent*) {
 
 void FormView::refreshFrame() {
     if (differs(caption_, window_.caption)) setWindowTitle(toQString(window_.caption));
+    if (differs(icon_, window_.icon) && !icon_->empty()) setWindowIcon(QIcon(drawingOf(*icon_)));
     if (differs(backColour_, window_.backColour)) {
         QPalette colours = palette();
         colours.setColor(QPalette::Window, colourOf(window_.backColour));

@@ -97,7 +97,7 @@ class FormView : public QWidget {
 
     // What the window shows.
     Place place_;
-    std::optional<Text> caption_;
+    std::optional<Text> caption_, icon_;
     std::optional<Colour> backColour_;
     bool alwaysOnTop_ = false;
     bool minimised_ = false;

@@ -318,7 +318,8 @@ Control* KeyEvents::accessControl(const QString& typed) const {
     if (typed.size() != 1) return nullptr;
     const QChar letter = typed.front().toLower();
     const auto answers = [&](const Control* control) {
-        const bool pressable = control->kind == ControlKind::button || control->kind == ControlKind::checkBox;
+        const bool pressable = control->kind == ControlKind::button || control->kind == ControlKind::menu ||
+                               control->kind == ControlKind::checkBox;
         const std::size_t mark = control->caption.find(u'&');
         return pressable && mark + 1 < control->caption.size() &&
                QChar(control->caption[mark + 1]).toLower() == letter && isReachable(form_.window(), *control);

@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QLocale>
 #include <QPointer>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -12,7 +13,11 @@
 #include <QProgressDialog>
 #include <QSvgRenderer>
 #include <QTimer>
+#include <chrono>
+#include <future>
+#include <optional>
 #include <thread>
+#include <utility>
 
 #include "platform/font_size.h"
 #include "platform/qt/control_view.h"
@@ -32,6 +37,7 @@ constexpr int twipsPerPoint = 20;
 // no timer ticks.
 class QtPrinter::Progress {
   public:
+    // Of `all` steps; 0: nobody knows how many.
     Progress(qsizetype all, Language language) : all_(all), language_(language) { clock_.start(); }
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
@@ -39,16 +45,30 @@ class QtPrinter::Progress {
 
     // Throws PrintStopped.
     void tell(qsizetype done) {
-        constexpr int untilSeen = 400, pause = 50;  // milliseconds
+        constexpr int untilSeen = 400;
         if (clock_.elapsed() < (dialog_ ? pause : untilSeen)) return;
         clock_.restart();
         if (!dialog_) open();
-        dialog_->setValue(int(100 * done / all_));
+        if (all_ > 0) dialog_->setValue(int(100 * done / all_));
         QCoreApplication::processEvents();
         if (dialog_->wasCanceled()) throw PrintStopped();
     }
 
+    // Returns when `isDone`, which takes so many milliseconds, is true, and throws PrintFailure when that is
+    // too late, and PrintStopped.
+    void waitUntil(const std::function<bool(int milliseconds)>& isDone) {
+        constexpr int longestWait = 30000;
+        QElapsedTimer waited;
+        waited.start();
+        while (!isDone(pause)) {
+            if (waited.elapsed() > longestWait) throw PrintFailure();
+            tell(0);
+        }
+    }
+
   private:
+    static constexpr int pause = 50;  // milliseconds
+
     void open() {
         dialog_ = std::make_unique<QProgressDialog>(FormView::topmost());
         dialog_->setWindowModality(Qt::ApplicationModal);
@@ -56,8 +76,10 @@ class QtPrinter::Progress {
         dialog_->setLabelText(QStringLiteral(" printing...."));
         dialog_->setCancelButtonText(toQString(Words{u"Abbrechen", u"Cancel"}.in(language_)));
         FormView::holdTimers(true);
+        dialog_->setRange(0, all_ > 0 ? 100 : 0);
         dialog_->setAutoClose(false);
         dialog_->setMinimumDuration(0);
+        dialog_->show();
     }
 
     qsizetype all_;
@@ -104,35 +126,52 @@ void QtPrinter::setFontSize(TextView points) {
     font_.setPixelSize(*size * twipsPerPoint);
 }
 
-// Of a name that it does not know the toolkit makes the default printer.
 void QtPrinter::begin() {
     if (document_) return;
-    const bool intoFile = current_ == toFile;
-    QPrinter printer(QPrinter::HighResolution);
-    if (intoFile) {
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        target_ = askForFile();
-        if (target_.isEmpty()) throw PrintStopped();
-    } else {
-        target_.clear();
-        printer.setPrinterName(toQString(current_));
-        if (current_.empty() || printer.printerName() != toQString(current_)) throw PrintFailure();
-    }
+    QPageLayout layout = current_ == toFile ? layoutOfFile() : layoutOfPrinter();
+    if (orientation_ == Orientation::across) layout.setOrientation(QPageLayout::Landscape);
     file_ = std::make_unique<QTemporaryFile>();
     if (!file_->open()) throw PrintFailure();
     document_ = std::make_unique<QPdfWriter>(file_.get());
-    document_->setPageLayout(printer.pageLayout());
+    document_->setPageLayout(layout);
     document_->setResolution(twipsPerInch);
     document_->setTitle(QStringLiteral("Zifferon PRO"));
     if (!painter_.begin(document_.get())) throw PrintFailure();
-    top_ = 0;
+    next_ = {};
 }
 
-// The dialog asks itself before it overwrites.
-QString QtPrinter::askForFile() const {
-    return QFileDialog::getSaveFileName(FormView::topmost(), {}, QStringLiteral("Zifferon PRO.pdf"),
-                                        QStringLiteral("PDF (*.pdf)"));
+// Asks for the file. The dialog asks itself before it overwrites.
+QPageLayout QtPrinter::layoutOfFile() {
+    target_ = QFileDialog::getSaveFileName(FormView::topmost(), {}, QStringLiteral("Zifferon PRO.pdf"),
+                                           QStringLiteral("PDF (*.pdf)"));
+    if (target_.isEmpty()) throw PrintStopped();
+    constexpr double margin = 12;  // points
+    const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    return {QPageSize(letter ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
+            QMarginsF(margin, margin, margin, margin)};
 }
+
+// The print service knows it, and may not answer: it is asked by a thread that is left to itself. Of a name
+// that it does not know the toolkit makes the default printer.
+QPageLayout QtPrinter::layoutOfPrinter() const {
+    if (current_.empty()) throw PrintFailure();
+    std::promise<std::optional<QPageLayout>> promise;
+    auto answer = promise.get_future();
+    std::thread([name = toQString(current_), promise = std::move(promise)]() mutable {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setPrinterName(name);
+        const bool known = printer.printerName() == name;
+        promise.set_value(known ? std::optional(printer.pageLayout()) : std::nullopt);
+    }).detach();
+    Progress(0, language).waitUntil([&](int milliseconds) {
+        return answer.wait_for(std::chrono::milliseconds(milliseconds)) == std::future_status::ready;
+    });
+    const std::optional<QPageLayout> layout = answer.get();
+    if (!layout) throw PrintFailure();
+    return *layout;
+}
+
+QSizeF QtPrinter::page() const { return document_->pageLayout().paintRectPixels(twipsPerInch).size(); }
 
 void QtPrinter::print(TextView text) {
     begin();
@@ -148,21 +187,36 @@ void QtPrinter::print(TextView text) {
 
 void QtPrinter::printLine(TextView line) {
     const QFontMetricsF metrics(font_, document_.get());
-    const double pageHeight = document_->pageLayout().paintRectPixels(twipsPerInch).height();
-    if (top_ > 0 && top_ + metrics.height() > pageHeight) {
+    if (next_.y() > 0 && next_.y() + metrics.height() > page().height()) {
         if (!document_->newPage()) throw PrintFailure();
-        top_ = 0;
+        next_ = {};
     }
     painter_.setFont(font_);
-    painter_.drawText(QPointF(left_, top_ + metrics.ascent()), toQString(line));
-    top_ += metrics.lineSpacing();
+    painter_.drawText(next_ + QPointF(left_, metrics.ascent()), toQString(line));
+    next_ = {0, next_.y() + metrics.lineSpacing()};
 }
 
-void QtPrinter::paintPicture(TextView name, int left, int top) {
+void QtPrinter::setCurrentX(int twips) {
     begin();
-    QSvgRenderer picture(drawingOf(name));
-    if (picture.isValid())
-        picture.render(&painter_, QRectF(QPointF(left, top), picture.defaultSize() * twipsPerPixel));
+    next_.setX(twips);
+}
+
+void QtPrinter::setCurrentY(int twips) {
+    begin();
+    next_.setY(twips);
+}
+
+void QtPrinter::paintPicture(const PrintedPicture& picture) {
+    begin();
+    QSvgRenderer drawing(drawingOf(picture.drawing));
+    if (!drawing.isValid()) return;
+    const QPointF corner(picture.left, picture.top);
+    QSizeF size = drawing.defaultSize() * twipsPerPixel;
+    if (picture.share > 0) {
+        size.scale(page() - QSizeF(picture.left, picture.top), Qt::KeepAspectRatio);
+        size *= picture.share;
+    }
+    drawing.render(&painter_, QRectF(corner, size));
 }
 
 void QtPrinter::endDoc() {
@@ -177,23 +231,29 @@ void QtPrinter::endDoc() {
 // The print service gets it whole, by its own command, or never.
 void QtPrinter::handOver() {
     if (!target_.isEmpty()) {
-        QFile::remove(target_);
-        if (!file_->copy(target_)) throw PrintFailure();
+        const QString target = std::exchange(target_, {});
+        QFile::remove(target);
+        if (!file_->copy(target)) throw PrintFailure();
         return;
     }
-    constexpr int longestWait = 30000;  // milliseconds
     QProcess command;
     command.start(QStringLiteral("lp"), {QStringLiteral("-d"), toQString(current_), QStringLiteral("-t"),
                                          QStringLiteral("Zifferon PRO"), file_->fileName()});
-    const bool done = command.waitForFinished(longestWait);
-    if (!done || command.exitStatus() != QProcess::NormalExit || command.exitCode() != 0)
+    Progress(0, language).waitUntil([&](int milliseconds) {
+        return command.waitForFinished(milliseconds) || command.state() == QProcess::NotRunning;
+    });
+    if (command.error() == QProcess::FailedToStart || command.exitStatus() != QProcess::NormalExit ||
+        command.exitCode() != 0) {
         throw PrintFailure();
+    }
 }
 
 void QtPrinter::drop() {
     if (painter_.isActive()) painter_.end();
     document_.reset();
     file_.reset();
+    target_.clear();
+    orientation_ = Orientation::upright;
 }
 
 }  // namespace zifferon

@@ -29,7 +29,10 @@ class QtPrinter : public PrintDevice {
     void setFontItalic(bool italic) override { font_.setItalic(italic); }
     void setLeft(int twips) override { left_ = twips; }
     void print(TextView text) override;
-    void paintPicture(TextView name, int left, int top) override;
+    void paintPicture(const PrintedPicture& picture) override;
+    void setOrientation(Orientation orientation) override { orientation_ = orientation; }
+    void setCurrentX(int twips) override;
+    void setCurrentY(int twips) override;
     void endDoc() override;
     void drop() override;
 
@@ -38,7 +41,9 @@ class QtPrinter : public PrintDevice {
 
     void begin();
     void printLine(TextView line);
-    QString askForFile() const;
+    QPageLayout layoutOfFile();
+    QPageLayout layoutOfPrinter() const;
+    QSizeF page() const;
     void handOver();
 
     std::vector<Text> names_;
@@ -51,8 +56,9 @@ class QtPrinter : public PrintDevice {
     QString target_;  // the file that it becomes; empty: the printer's
     QPainter painter_;
     QFont font_;
+    Orientation orientation_ = Orientation::upright;
     int left_ = 0;
-    double top_ = 0;  // of the next line, from the upper edge of the printable area
+    QPointF next_;  // of the next line, from where `left_` meets the upper edge of the printable area
 };
 
 }  // namespace zifferon

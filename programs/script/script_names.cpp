@@ -156,6 +156,12 @@ const std::unordered_map<std::string_view, Variable>& variables() {
          }},
         {"selectedFileName", [](const Program& p) { return render(p.files.pickedName()); }},
         {"selectedFileDate", [](const Program& p) { return render(p.preview.selectedFileDate()); }},
+        {"nextStepBirds", [](const Program& p) { return render(p.puzzle.nextStepBirds()); }},
+        {"nextStepAuthor", [](const Program& p) { return render(p.puzzle.nextStepAuthor()); }},
+        {"puzzleSeconds", [](const Program& p) { return render(double(p.puzzle.puzzleSeconds())); }},
+        {"holdSeconds", [](const Program& p) { return render(p.hotSpot.holdSeconds()); }},
+        {"mainWasVisible", [](const Program& p) { return render(p.secretform.mainWasVisible()); }},
+        {"computerName", [](const Program& p) { return render(p.secretform.check.text()); }},
         {"standardPrinterName",
          [](const Program& p) { return render(p.printOptions.standardPrinterName()); }},
         {"printFontCode", [](const Program& p) { return render(double{p.printOptions.printFontCode()}); }},
@@ -350,8 +356,7 @@ std::optional<std::string> valueOf(std::string_view name, Program& program, cons
     if (found != variables().end()) return found->second(program);
     if (name == "clipboard") return quoted(machine.text());
     if (name == "focus") {
-        const Window* const modal = machine.modal().window;
-        const Control* focus = (modal != nullptr ? *modal : program.pultform).focus();
+        const Control* const focus = machine.inUse().window->focus();
         return focus != nullptr ? toUtf8(focus->name) : "";
     }
     if (auto value = valueIn(program.pultform, name)) return value;

@@ -18,6 +18,8 @@ namespace {
 
 constexpr int longestWaitForTheFolder = 2000;  // milliseconds
 
+constexpr std::string_view gesture = "Help.showPuzzleButton";
+
 // Thrown through the handlers that wait for a modal window to close.
 class ScriptOver {};
 class BeginsAnew {};
@@ -27,6 +29,7 @@ class BeginsAnew {};
 ScriptRunner::ScriptRunner(std::ostream& out, std::ostream& errors)
     : out_(out), errors_(errors), headless_(out), files_(disk_), machine_(headless_.with(files_, system_)) {
     files_.onExchanged = [this](const std::string& name) { disk_.stamp(name, headless_.now()); };
+    system_.clock = [this] { return headless_.now(); };
     setClock("2026-11-22 08:30:00");
     headless_.whileModal = [this](const Window& modal) { stayIn(modal); };
 }
@@ -59,7 +62,7 @@ void ScriptRunner::runLines(const std::function<bool()>& going) {
         try {
             runLine(line_);
         } catch (const BeginsAnew&) {
-            if (headless_.modal().window != nullptr) throw;
+            if (headless_.modalOpen()) throw;
             runLine(line_);
         }
     }
@@ -73,18 +76,17 @@ void ScriptRunner::stayIn(const Window& modal) {
 
 // A new calculator begins outside of all handlers of the former one.
 void ScriptRunner::unwindModal() const {
-    if (headless_.modal().window != nullptr) throw BeginsAnew();
+    if (headless_.modalOpen()) throw BeginsAnew();
 }
 
 void ScriptRunner::runLine(std::string_view text) {
     ScriptLine line(text);
     if (line.atEnd() || text.front() == '#') return;
     const std::string command = line.word();
-    if (runKeys(command, line) || runStage(command, line) || runLook(command, line) ||
-        runMouse(command, line) || runDesktop(command, line)) {
-        return;
-    }
-    throw MalformedScript("unknown command " + command);
+    const bool known = runKeys(command, line) || runStage(command, line) || runLook(command, line) ||
+                       runMouse(command, line) || runDesktop(command, line);
+    if (!known) throw MalformedScript("unknown command " + command);
+    headless_.settleActivation();
 }
 
 bool ScriptRunner::runStage(const std::string& command, ScriptLine& line) {
@@ -99,7 +101,7 @@ bool ScriptRunner::runStage(const std::string& command, ScriptLine& line) {
     if (command == "wait") {
         const std::int64_t milliseconds = line.number();
         line.expectEnd();
-        headless_.wait(milliseconds, program().pultform, program().keys);
+        headless_.wait(milliseconds);
         return true;
     }
     return false;
@@ -137,6 +139,7 @@ bool ScriptRunner::runKeys(const std::string& command, ScriptLine& line) {
 
 bool ScriptRunner::runMouse(const std::string& command, ScriptLine& line) {
     if (command == "choose") return choose(line), true;
+    if (command == "drag") return drag(line), true;
     if (command == "focus" || command == "caret" || command == "select") return select(command, line), true;
     using Action = void (ScriptRunner::*)(Control&);
     static const std::map<std::string, Action> actions = {{"click", &ScriptRunner::click},
@@ -146,7 +149,9 @@ bool ScriptRunner::runMouse(const std::string& command, ScriptLine& line) {
                                                           {"hover", &ScriptRunner::hover}};
     const auto action = actions.find(command);
     if (action == actions.end()) return false;
-    Control& target = control(line);
+    const std::string name = line.word();
+    if (name == gesture) return line.expectEnd(), makeGesture(), true;
+    Control& target = control(name);
     const std::optional<std::int64_t> row = line.atEnd() ? std::nullopt : std::optional(line.number());
     line.expectEnd();
     if (!inReach(target)) return true;
@@ -168,7 +173,7 @@ void ScriptRunner::pointAt(Control& target, std::int64_t row) {
 
 // By a row from 1, or by its text; of a list 0 selects none, without a click.
 void ScriptRunner::choose(ScriptLine& line) {
-    Control& target = control(line);
+    Control& target = control(line.word());
     auto* const list = dynamic_cast<ListBox*>(&target);
     auto* const combo = dynamic_cast<ComboBox*>(&target);
     if (list == nullptr && combo == nullptr) throw MalformedScript("no list and no combo box");
@@ -200,9 +205,29 @@ void ScriptRunner::doubleClick(Control& target) {
     if (isReachable(window(), target)) mouseDoubleClick(keys(), target);
 }
 
+// The one that shows the way to the puzzle, whatever it is.
+void ScriptRunner::makeGesture() {
+    Control& programLine = program().help.Text6;
+    if (inReach(programLine)) doubleClick(programLine);
+}
+
 void ScriptRunner::mouseDown(Control& target) { mousePress(window(), keys(), target); }
 
 void ScriptRunner::mouseUp(Control& target) { keys().run(target.onMouseUp); }
+
+// The press on the piece, and its release over the field.
+void ScriptRunner::drag(ScriptLine& line) {
+    const auto inUse = [this](const std::string& name) -> Control& {
+        Control* const found = window().find(fromUtf8(name));
+        return found != nullptr ? *found : control(name);
+    };
+    Control& piece = inUse(line.word());
+    Control& field = inUse(line.word());
+    line.expectEnd();
+    if (!piece.draggable || !inReach(piece) || !inReach(field)) return;
+    mousePress(window(), keys(), piece);
+    mouseDrop(keys(), piece, field);
+}
 
 void ScriptRunner::hover(Control& target) { mouseMove(keys(), target); }
 
@@ -211,7 +236,7 @@ bool ScriptRunner::runDesktop(const std::string& command, ScriptLine& line) {
     const auto run = [&](const std::function<void()>& handler) {
         line.expectEnd();
         program();
-        if (headless_.modal().window == nullptr) keys().run(handler);
+        if (!headless_.modalOpen()) program().keys.run(handler);
         return true;
     };
     if (command == "hotkey") return run(desktop.onHotKey);
@@ -259,6 +284,7 @@ bool ScriptRunner::runLook(const std::string& command, ScriptLine& line) {
 namespace {
 
 const std::map<std::string, std::string HeadlessSystem::*> systemAnswers = {
+    {"computer", &HeadlessSystem::computer},
     {"locale", &HeadlessSystem::locale},
     {"style", &HeadlessSystem::style},
     {"system", &HeadlessSystem::name}};
@@ -272,6 +298,7 @@ void ScriptRunner::setMachine(ScriptLine& line) {
     if (key == "printer") return headless_.printer.addPrinter(line.quotedText());
     if (key == "font") return headless_.printer.addFont(line.quotedText());
     if (key == "printfault") return headless_.printer.failCall(static_cast<int>(line.number()));
+    if (key == "seed") return void(system_.seed = static_cast<std::uint32_t>(line.number()));
     if (key == "clock") return setClock(toUtf8(line.quotedText()));
     if (key == "caption") {
         system_.caption = static_cast<int>(line.number());
@@ -306,7 +333,7 @@ void ScriptRunner::beginAnew() {
     headless_.beginAnew();
     headless_.setClock(clock_);
     program_ = std::make_unique<Program>(machine_);
-    headless_.setMainWindow(&program_->pultform);
+    headless_.setMainWindow(program_->pultform, program_->keys);
 }
 
 void ScriptRunner::fresh(ScriptLine& line) {
@@ -357,7 +384,7 @@ void ScriptRunner::type(TextView text) {
 }
 
 void ScriptRunner::select(const std::string& command, ScriptLine& line) {
-    Control& target = control(line);
+    Control& target = control(line.word());
     if (command == "focus") {
         if (target.takesFocus) keys().run([&] { window().setFocus(target); });
         return;
@@ -459,17 +486,17 @@ Program& ScriptRunner::program() {
 }
 
 Window& ScriptRunner::window() {
-    Window* const modal = headless_.modal().window;
-    return modal != nullptr ? *modal : program().pultform;
+    program();
+    return *headless_.inUse().window;
 }
 
 KeyRoad& ScriptRunner::keys() {
-    KeyRoad* const modal = headless_.modal().keys;
-    return modal != nullptr ? *modal : program().keys;
+    program();
+    headless_.settleActivation();
+    return *headless_.inUse().keys;
 }
 
-Control& ScriptRunner::control(ScriptLine& line) {
-    const std::string name = line.word();
+Control& ScriptRunner::control(const std::string& name) {
     Control* const found = controlOf(name, program());
     if (found == nullptr) throw MalformedScript("unknown control " + name);
     return *found;

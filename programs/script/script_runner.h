@@ -44,6 +44,8 @@ class ScriptRunner {
     void mouseDown(Control& target);
     void mouseUp(Control& target);
     void choose(ScriptLine& line);
+    void drag(ScriptLine& line);
+    void makeGesture();
     static void pointAt(Control& target, std::int64_t row);
     bool inReach(const Control& target);
     void hover(Control& target);
@@ -68,7 +70,7 @@ class ScriptRunner {
     void fail(std::string_view name, std::string_view expected, std::string_view found);
 
     Program& program();
-    Control& control(ScriptLine& line);
+    Control& control(const std::string& name);
 
     // The window that takes keys and the mouse, and its key road.
     Window& window();

@@ -156,12 +156,13 @@ TEST_F(Start, isHeardOnlyWhereItIsSeen) {
         log_.str("");
         headless_.beginAnew();
         Program program(machine_);
+        headless_.setMainWindow(program.pultform, program.keys);
         program.keys.run([&] { program.start(); });
-        headless_.wait(20, program.pultform, program.keys);
+        headless_.wait(20);
         EXPECT_EQ(logHas("sound start.wav"), sounds);
         EXPECT_EQ(program.pultform.visible, sounds);
         program.keys.run(headless_.onTrayShow);
-        headless_.wait(20, program.pultform, program.keys);
+        headless_.wait(20);
         EXPECT_EQ(logHas("sound start.wav"), sounds);
     }
 }

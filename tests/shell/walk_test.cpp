@@ -24,7 +24,7 @@ class Walk {
         log_.str("");
         headless_.beginAnew();
         program_ = std::make_unique<Program>(machine);
-        headless_.setMainWindow(&program_->pultform);
+        headless_.setMainWindow(program_->pultform, program_->keys);
         CalculatorState& s = program_->pultform.state;
         if (seed % 3 == 1) s.language = Language::english;
         if (seed % 4 == 1) s.decimalPointStyle = 1;
@@ -42,6 +42,7 @@ class Walk {
         try {
             for (int i = 0; i < steps; ++i) {
                 step(story);
+                headless_.settleActivation();
                 digestState();
             }
         } catch (const ProcessEnded&) {
@@ -138,7 +139,7 @@ class Walk {
                 type(keys);
             });
         if (kind == 18) return tell(story, anyOf(pasted), program_->pultform.onPaste);
-        if (kind == 19) return headless_.wait(below(1500), program_->pultform, program_->keys);
+        if (kind == 19) return headless_.wait(below(1500));
         const auto& controls = program_->pultform.controls();
         clickOn(*anyOf(controls), story);
     }

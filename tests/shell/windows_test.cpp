@@ -92,6 +92,8 @@ TEST_F(Windows, standAsTheyWereDesigned) {
     tell("page", desk);
     tell("letterhead", program_.kopf);
     tell("help", program_.help);
+    tell("puzzle", program_.puzzle);
+    tell("riddle", program_.secretform);
     const Form1 form1(Language::german);
     tell("loading", form1);
     const Form2 form2(Language::german);

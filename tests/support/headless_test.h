@@ -33,7 +33,10 @@ class HeadlessTest : public testing::Test {
 // The same with a calculator that has just begun.
 class FreshProgramTest : public HeadlessTest {
   protected:
-    FreshProgramTest() { program_.beginFresh(); }
+    FreshProgramTest() {
+        headless_.setMainWindow(program_.pultform, program_.keys);
+        program_.beginFresh();
+    }
 
     void type(TextView characters) { HeadlessTest::type(program_, characters); }
     CalculatorState& state() { return program_.pultform.state; }

@@ -45,7 +45,7 @@ std::chrono::sys_seconds wholeSeconds(std::chrono::system_clock::time_point mome
 Puzzle::Puzzle(const TextField& code, const Language& language, const Messages& messages, Machine& machine)
     : code_(code), language_(language), messages_(messages.titled(title)), machine_(machine) {
     name = u"puzzle";
-    place = {0, 0, 4200, 5160};
+    place = {0, 0, 4200, 5280};
     closeable = false;
     menu = &info;
     onActivate = [this] { activated(); };

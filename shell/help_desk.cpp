@@ -95,11 +95,13 @@ void HelpDesk::askToPrint() {
     });
 }
 
-// The help window becomes active next, and takes its place from there.
+// The help window becomes active next, and takes its place from there: until then nothing else moves the main
+// window.
 void HelpDesk::openPuzzle() {
     p.puzzle.reset();
     p.machine.windows.showModal(p.puzzle);
     p.puzzle.reset();
+    p.help.Timer2.stop();
     p.window.place.left -= behindHelp;
     p.window.place.top -= behindHelp;
 }

@@ -1,6 +1,7 @@
 #include "page/print_options.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "print/letterhead.h"
 #include "print/printers.h"
@@ -15,7 +16,6 @@ PrintOptions::PrintOptions(const Parts& parts) : p(parts), c(p.controls) {
 }
 
 void PrintOptions::wire() {
-    constexpr int untilTheStoredPrinter = 1000;  // milliseconds
     c.optbtn.onClick = [this] { c.Frame8.visible = true; };
     c.back.onClick = [this] {
         close();
@@ -25,7 +25,6 @@ void PrintOptions::wire() {
     wireFonts();
     c.standardprint.onClick = [this] { storePrinter(); };
     c.Timer3.onTick = [this] { readPrinter(); };
-    c.Timer3.start(untilTheStoredPrinter);
     c.cmdkopf.onClick = [this] { openLetterhead(); };
     p.kopf.kopfok.onClick = [this] { acceptLetterhead(); };
 }
@@ -37,8 +36,16 @@ void PrintOptions::wireFonts() {
     c.druckcomb.onChange = [this] { typed(); };
 }
 
+// A printer that has been chosen meanwhile, or was stored, stays.
 void PrintOptions::fillLists() {
-    GetPrinters(c.allprint, p.machine.printer);
+    constexpr int untilTheStoredPrinter = 1000;  // milliseconds
+    const Text shown = c.allprint.text();
+    const bool chosen = shown != std::exchange(offered_, GetPrinters(c.allprint, p.machine.printer));
+    if (chosen) {
+        c.allprint.setText(shown);
+    } else {
+        c.Timer3.start(untilTheStoredPrinter);
+    }
     p.letterhead.fillFonts(p.machine.printer.fontNames());
 }
 

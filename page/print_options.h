@@ -30,7 +30,7 @@ class PrintOptions {
 
     void wire();
 
-    // The printers and fonts of the machine have been found.
+    // The printers and fonts of the machine have been found; again where more have been.
     void fillLists();
 
     // Shows the type setting that is stored.
@@ -59,6 +59,7 @@ class PrintOptions {
     PageControls& c;
     float printFontCode_ = 0;
     Text standardPrinterName_;
+    Text offered_;  // what allprint shows where nobody has chosen
 };
 
 }  // namespace zifferon

@@ -39,7 +39,8 @@ class PrintDevice {
     Language language = Language::german;  // of what it tells the user while it prints
 
     // Looks for printers and fonts; `found` runs when they are known, never before the windows that are shown
-    // now have been painted, and without a window at once. Until then there are none.
+    // now have been painted, and without a window at once. Until then there are none. It may run once more,
+    // when a print service that is slow to answer knows others.
     virtual void find(std::function<void()> found) = 0;
 
     // In the order of the system. Never fails; a print service that does not answer has no printers.

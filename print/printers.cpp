@@ -4,10 +4,11 @@
 
 namespace zifferon {
 
-void GetPrinters(ComboBox& combo, PrintDevice& device) {
-    for (const Text& name : device.printerNames()) combo.rows.push_back(name);
+Text GetPrinters(ComboBox& combo, PrintDevice& device) {
+    combo.rows = device.printerNames();
     const Text current = device.deviceName();
     if (std::find(combo.rows.begin(), combo.rows.end(), current) != combo.rows.end()) combo.setText(current);
+    return combo.text();
 }
 
 bool selectPrinter(TextView name, PrintDevice& device) {

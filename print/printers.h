@@ -6,8 +6,8 @@
 
 namespace zifferon {
 
-// Adds the printers to the rows of a combo box, and chooses the current one.
-void GetPrinters(ComboBox& combo, PrintDevice& device);
+// Makes the printers the rows of a combo box, and chooses the current one. Returns what the box shows then.
+Text GetPrinters(ComboBox& combo, PrintDevice& device);
 
 // Makes the printer of that name the current one; false where there is none. Throws PrintFailure.
 bool selectPrinter(TextView name, PrintDevice& device);

@@ -11,6 +11,7 @@
 #include <QPrinterInfo>
 #include <QProcess>
 #include <QProgressDialog>
+#include <QSaveFile>
 #include <QSvgRenderer>
 #include <QTimer>
 #include <chrono>
@@ -30,6 +31,21 @@ namespace {
 constexpr TextView toFile = u"Print to File (PDF)";
 constexpr int twipsPerInch = 1440;
 constexpr int twipsPerPoint = 20;
+
+QPageSize paperOfTheCountry() {
+    const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    return QPageSize(letter ? QPageSize::Letter : QPageSize::A4);
+}
+
+// Asks the print service. Of a name that it does not know the toolkit makes the default printer.
+std::optional<QPageLayout> layoutOf(const QString& printerName) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPrinterName(printerName);
+    if (printer.printerName() != printerName) return std::nullopt;
+    const QPageSize paper = QPrinterInfo::printerInfo(printerName).defaultPageSize();
+    printer.setPageSize(paper.isValid() ? paper : paperOfTheCountry());
+    return printer.pageLayout();
+}
 
 }  // namespace
 
@@ -98,6 +114,7 @@ void QtPrinter::find(std::function<void()> found) {
         names_.emplace_back(toFile);
         current_ = current.empty() ? names_.front() : current;
         found();
+        FormView::refreshAll();
     };
     const auto ask = [take, alive = QPointer<QObject>(&alive_)] {
         std::vector<Text> names;
@@ -108,7 +125,10 @@ void QtPrinter::find(std::function<void()> found) {
             if (alive) take(names, current);
         });
     };
-    QTimer::singleShot(untilPainted, &alive_, [ask] { std::thread(ask).detach(); });
+    QTimer::singleShot(untilPainted, &alive_, [take, ask] {
+        take({}, {});
+        std::thread(ask).detach();
+    });
 }
 
 std::vector<Text> QtPrinter::fontNames() {
@@ -146,22 +166,16 @@ QPageLayout QtPrinter::layoutOfFile() {
                                            QStringLiteral("PDF (*.pdf)"));
     if (target_.isEmpty()) throw PrintStopped();
     constexpr double margin = 12;  // points
-    const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    return {QPageSize(letter ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
-            QMarginsF(margin, margin, margin, margin)};
+    return {paperOfTheCountry(), QPageLayout::Portrait, QMarginsF(margin, margin, margin, margin)};
 }
 
-// The print service knows it, and may not answer: it is asked by a thread that is left to itself. Of a name
-// that it does not know the toolkit makes the default printer.
+// The print service may not answer: it is asked by a thread that is left to itself.
 QPageLayout QtPrinter::layoutOfPrinter() const {
     if (current_.empty()) throw PrintFailure();
     std::promise<std::optional<QPageLayout>> promise;
     auto answer = promise.get_future();
     std::thread([name = toQString(current_), promise = std::move(promise)]() mutable {
-        QPrinter printer(QPrinter::HighResolution);
-        printer.setPrinterName(name);
-        const bool known = printer.printerName() == name;
-        promise.set_value(known ? std::optional(printer.pageLayout()) : std::nullopt);
+        promise.set_value(layoutOf(name));
     }).detach();
     Progress(0, language).waitUntil([&](int milliseconds) {
         return answer.wait_for(std::chrono::milliseconds(milliseconds)) == std::future_status::ready;
@@ -231,9 +245,11 @@ void QtPrinter::endDoc() {
 // The print service gets it whole, by its own command, or never.
 void QtPrinter::handOver() {
     if (!target_.isEmpty()) {
-        const QString target = std::exchange(target_, {});
-        QFile::remove(target);
-        if (!file_->copy(target)) throw PrintFailure();
+        QSaveFile target(std::exchange(target_, {}));
+        if (!target.open(QIODevice::WriteOnly) || !file_->seek(0)) throw PrintFailure();
+        constexpr int piece = 1 << 16;
+        while (!file_->atEnd()) target.write(file_->read(piece));
+        if (!target.commit()) throw PrintFailure();
         return;
     }
     QProcess command;

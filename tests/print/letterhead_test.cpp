@@ -133,11 +133,18 @@ TEST_F(LetterheadTest, takesWhatCanBeAppliedAndRefusesTheRest) {
     EXPECT_TRUE(isRefused("\x01\x02"));
 }
 
-TEST_F(LetterheadTest, ofAnyLengthIsReadOrRefused) {
+TEST_F(LetterheadTest, ofAnyLengthAndWithAnyWrongByteIsReadOrRefused) {
     const std::string whole = encoded({});
     int read = 0;
     for (std::size_t size = 0; size <= whole.size(); ++size) read += isRefused(whole.substr(0, size)) ? 0 : 1;
     EXPECT_EQ(read, 31);  // cut behind any of its 30 items, or before all
+    for (std::size_t i = 0; i < whole.size(); ++i) {
+        for (const char wrong : {'\0', '\x7F', '\xFF'}) {
+            std::string damaged = whole;
+            damaged[i] = static_cast<char>(damaged[i] ^ wrong);
+            EXPECT_NO_THROW(isRefused(damaged)) << i;
+        }
+    }
 }
 
 TEST_F(LetterheadTest, letsAFailureOfTheFileThrough) {
@@ -161,6 +168,15 @@ TEST_F(LetterheadTest, isWrittenAsItWasRead) {
     EXPECT_EQ(again.Combo6.text(), u"8");
     EXPECT_EQ(again.combfoart3.text(), u"Arial");
     EXPECT_FALSE(again.checkstamm.ticked());
+
+    const Text line = Text(65534, u'ß') + u"\r\n";
+    for (const Text& text : {line, line + line + u"Ende"}) {
+        empty.nachtext.setText(text);
+        writeLetterhead(files, empty);
+        readLetterhead(files, again);
+        EXPECT_EQ(again.nachtext.text(), text);
+        EXPECT_EQ(again.combfoart3.text(), u"Arial");
+    }
 }
 
 }  // namespace

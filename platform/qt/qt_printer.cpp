@@ -6,10 +6,10 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QLocale>
-#include <QPointer>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QProgressDialog>
 #include <QSaveFile>
 #include <QSvgRenderer>
@@ -106,29 +106,42 @@ class QtPrinter::Progress {
 
 QtPrinter::~QtPrinter() { drop(); }
 
-// The thread is left to itself: the process may end, whether the service has answered or not.
 void QtPrinter::find(std::function<void()> found) {
     constexpr int untilPainted = 200;  // milliseconds
-    const auto take = [this, found](std::vector<Text> names, const Text& current) {
-        names_ = std::move(names);
-        names_.emplace_back(toFile);
-        current_ = current.empty() ? names_.front() : current;
-        found();
-        FormView::refreshAll();
-    };
-    const auto ask = [take, alive = QPointer<QObject>(&alive_)] {
-        std::vector<Text> names;
-        for (const QString& name : QPrinterInfo::availablePrinterNames())
-            names.push_back(name.toStdU16String());
-        const Text current = QPrinterInfo::defaultPrinterName().toStdU16String();
-        QMetaObject::invokeMethod(qApp, [take, alive, names, current] {
-            if (alive) take(names, current);
-        });
-    };
-    QTimer::singleShot(untilPainted, &alive_, [take, ask] {
-        take({}, {});
-        std::thread(ask).detach();
+    QTimer::singleShot(untilPainted, &alive_, [this, found] {
+        take({}, {}, found);
+        askForPrinters(found);
     });
+}
+
+void QtPrinter::take(std::vector<Text> names, const Text& current, const std::function<void()>& found) {
+    names_ = std::move(names);
+    names_.emplace_back(toFile);
+    current_ = current.empty() ? names_.front() : current;
+    found();
+    FormView::refreshAll();
+}
+
+// Asked by the service's own command, it costs this process no libraries. It tells the names, and the default
+// one behind words.
+void QtPrinter::askForPrinters(const std::function<void()>& found) {
+    auto* const command = new QProcess(&alive_);
+    QProcessEnvironment english = QProcessEnvironment::systemEnvironment();
+    english.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    command->setProcessEnvironment(english);
+    QObject::connect(command, &QProcess::finished, [this, command, found] {
+        std::vector<Text> names;
+        Text current;
+        for (const QByteArray& line : command->readAllStandardOutput().split('\n')) {
+            const QList<QByteArray> words = line.split(' ');
+            if (line.startsWith("system default destination:"))
+                current = fromUtf8(words.last().toStdString());
+            if (words.size() == 1 && !line.isEmpty()) names.push_back(fromUtf8(line.toStdString()));
+        }
+        command->deleteLater();
+        take(std::move(names), current, found);
+    });
+    command->start(QStringLiteral("lpstat"), {QStringLiteral("-e"), QStringLiteral("-d")});
 }
 
 std::vector<Text> QtPrinter::fontNames() {

@@ -39,6 +39,8 @@ class QtPrinter : public PrintDevice {
   private:
     class Progress;
 
+    void take(std::vector<Text> names, const Text& current, const std::function<void()>& found);
+    void askForPrinters(const std::function<void()>& found);
     void begin();
     void printLine(TextView line);
     QPageLayout layoutOfFile();

@@ -300,6 +300,26 @@ TEST_F(DesktopTest, TrayIconAndItsMenu) {
     EXPECT_TRUE(comesTrue([&] { return !desktop.hasTray(); }));
 }
 
+// Where nothing shows compressed help the same pages are shown as HTML; a page of the web has no second form,
+// and where nothing opens anything, nothing is told.
+TEST_F(DesktopTest, TheGuideIsShownByWhateverThereIs) {
+    folder.put("xdg-open",
+               "#!/bin/sh\necho \"$1\" >>\"$0.opened\"\ncase $1 in *.chm | http*) exit 3 ;; esac\n");
+    QFile::setPermissions(QStringLiteral("xdg-open"), QFile::ReadOwner | QFile::ExeOwner);
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QByteArray::fromStdString(folder.path()) + ':' + path);
+    const auto opened = [this] { return folder.bytes("xdg-open.opened"); };
+    view.run([this] { state().calls->openHelp(); });
+    EXPECT_TRUE(comesTrue([&] { return opened() == "zifferonpro-help_de.chm\nzifferonpro-help_de.html\n"; }));
+    desktop.openDocument("https://www.zifferon-pro.example/");
+    letPass(300);
+    EXPECT_TRUE(opened().ends_with("html\nhttps://www.zifferon-pro.example/\n"));
+    qputenv("PATH", "");
+    desktop.openDocument("zifferonpro-help_de.chm");
+    letPass(100);
+    qputenv("PATH", path);
+}
+
 }  // namespace
 
 }  // namespace zifferon::test

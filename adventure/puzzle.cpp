@@ -134,8 +134,15 @@ void Puzzle::activated() {
     const bool english = language_ == Language::english;
     caption = english ? programTitle : title;
     Command1.caption = Words{u"Fenster &schließen", u"&Close window"}.in(language_);
-    Picture6.toolTip = tipOfTheFirstHead.in(language_);
-    Picture7.toolTip = tipOfTheSecondHead.in(language_);
+    Picture6.toolTip = Picture6.accessibleName = tipOfTheFirstHead.in(language_);
+    Picture7.toolTip = Picture7.accessibleName = tipOfTheSecondHead.in(language_);
+    Picture8.accessibleName = tipOfTheAuthor.in(language_);
+    char16_t number = u'1';
+    for (const Quarter& quarter : quarters_) {
+        quarter.piece.accessibleName = Text(Words{u"Teil ", u"Piece "}.in(language_)) + number;
+        quarter.field.accessibleName = Text(Words{u"Feld ", u"Field "}.in(language_)) + number;
+        ++number;
+    }
     timelab.caption.clear();
     deal();
     puzzleStartTime_ = wholeSeconds(machine_.system.now());

@@ -137,7 +137,8 @@ void SecretForm::reward() {
     place.height = rewardHeight;
     Picture1.visible = true;
     Text1.visible = false;
-    caption = Words{u"Doppelklick, um das Bild zu drucken", u"DoubleClick to print picture"}.in(language_);
+    caption = Picture1.accessibleName =
+        Words{u"Doppelklick, um das Bild zu drucken", u"DoubleClick to print picture"}.in(language_);
 }
 
 void SecretForm::askToPrint() {

@@ -85,11 +85,9 @@ void SecretForm::reset() {
 
 void SecretForm::open() { machine_.windows.show(*this); }
 
+// A main window that has been called back beside it stays.
 void SecretForm::activated() {
-    if (mainWindow_.visible) {
-        mainWasVisible_ = true;
-        machine_.windows.hide(mainWindow_);
-    }
+    if (mainWindow_.visible && !std::exchange(mainWasVisible_, true)) machine_.windows.hide(mainWindow_);
     setFocus(Text1);
 }
 

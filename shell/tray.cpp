@@ -47,12 +47,12 @@ void Tray::hideAtStart() {
     layoutCyclePending_ = inTray_;
 }
 
-// A window that is seen, or that the user has minimised, stays where it is.
+// A window that is seen, that the user has minimised, or that the riddle has hidden, stays where it is.
 void Tray::show() {
-    const bool wasHidden = !window_.visible;
+    const bool comesFromTray = inTray_ && !window_.visible;
     window_.minimised = false;
     machine_.windows.show(window_);
-    if (wasHidden) {
+    if (comesFromTray) {
         window_.place.left = restorePlace_.left;
         window_.place.top = restorePlace_.top;
     }

@@ -59,11 +59,11 @@ Call callOf(const std::vector<std::string>& arguments) {
     return call;
 }
 
+// The end of the input ends its last line.
 void typeLines(std::istream& in, PipedCalculator& calculator) {
     for (std::string line; std::getline(in, line);) {
         if (!line.empty() && line.back() == '\r') line.pop_back();
-        calculator.type(fromUtf8(line));
-        if (!in.eof()) calculator.type(u"\r");
+        calculator.type(fromUtf8(line) + u'\r');
     }
 }
 

@@ -65,6 +65,7 @@ void ScriptRunner::runLines(const std::function<bool()>& going) {
             if (headless_.modalOpen()) throw;
             runLine(line_);
         }
+        if (onLine && program_) onLine(line_, *program_);
     }
 }
 
@@ -353,9 +354,13 @@ void ScriptRunner::fresh(ScriptLine& line) {
         }
     }
     applyFormatMode(s);
-    files_.replace("quicksave.zfr", "");
-    writeLanguage(files_, s.language);
-    program_->beginFresh();
+    try {
+        disk_.replace("quicksave.zfr", "");
+        writeLanguage(disk_, s.language);
+        program_->beginFresh();
+    } catch (const FileFailure&) {
+        throw MalformedScript("no file can be written in this folder");
+    }
 }
 
 void ScriptRunner::answer(ScriptLine& line) {

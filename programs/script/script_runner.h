@@ -26,8 +26,14 @@ class ScriptRunner {
     // with their line numbers, to `errors`.
     ScriptRunner(std::ostream& out, std::ostream& errors);
 
+    // What the script runs on.
+    HeadlessMachine& machine() { return headless_; }
+
     // From now on a question that finds no queued answer fails, as an expectation does.
     void expectAnswers();
+
+    // Runs behind each line of the script, with what it says; not behind one that ends the program.
+    std::function<void(std::string_view line, Program& program)> onLine;
 
     // Exit code: 0 all expectations held, 1 one failed, 2 the script is malformed and stopped at that line.
     int run(std::istream& script);

@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
         return std::find(arguments.begin(), arguments.end(), word) != arguments.end();
     };
     if (has("--help")) return std::cout << help, 0;
-    if (has("--version")) return std::cout << "zifferon-keys 5.0\n", 0;
+    if (has("--version")) return std::cout << "zifferon-keys " ZIFFERON_VERSION "\n", 0;
     if (has("--tape") || has("--csv")) {
         return zifferon::runTapeCommand(arguments, std::cin, std::cout, std::cerr);
     }

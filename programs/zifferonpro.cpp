@@ -1,6 +1,8 @@
 // The window program.
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 
 #include "platform/folder_lock.h"
 #include "platform/qt/application.h"
@@ -8,9 +10,24 @@
 #include "platform/qt/qt_machine.h"
 #include "platform/summons.h"
 #include "shell/program.h"
+#include "shell/required_files.h"
 #include "shell/second_start.h"
 
 namespace {
+
+// The current folder is the program folder. A file manager may start the program with another one: then it is
+// the folder where the program lies, if that is complete.
+void enterProgramFolder() {
+    using namespace std::filesystem;
+    const auto isComplete = [](const path& folder) {
+        std::error_code ignored;
+        return std::all_of(zifferon::requiredFiles.begin(), zifferon::requiredFiles.end(),
+                           [&](const char* name) { return exists(folder / name, ignored); });
+    };
+    std::error_code ignored;
+    const path own = read_symlink("/proc/self/exe", ignored).parent_path();
+    if (!isComplete(".") && isComplete(own)) current_path(own, ignored);
+}
 
 enum class Start { first, shownByTheFirst, refused };
 
@@ -32,6 +49,7 @@ Start startIn(zifferon::FolderLock& folder) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    enterProgramFolder();
     zifferon::FolderLock folder;
     const Start start = startIn(folder);
     if (start == Start::shownByTheFirst) return EXIT_SUCCESS;

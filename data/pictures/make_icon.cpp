@@ -1,6 +1,6 @@
-// make_icon SVG SIZE FILE: draws the picture SVG, which is square, with SIZE pixels a side into FILE: its
-// rows from the top, for each pixel blue, green, red and opacity, a byte each, the colours multiplied with
-// the opacity.
+// make_icon SVG SIZE FILE: draws the picture SVG, which is square, with SIZE pixels a side into FILE, which is
+// a PNG picture where its name ends so. Otherwise it has the rows from the top, for each pixel blue, green,
+// red and opacity, a byte each, the colours multiplied with the opacity.
 #include <QFile>
 #include <QImage>
 #include <QPainter>
@@ -17,7 +17,9 @@ int main(int argc, char** argv) {
         QPainter painter(&image);
         drawing.render(&painter);
         painter.end();
-        QFile file(QString::fromLocal8Bit(argv[3]));
+        const QString name = QString::fromLocal8Bit(argv[3]);
+        if (name.endsWith(".png")) return image.save(name) ? EXIT_SUCCESS : EXIT_FAILURE;
+        QFile file(name);
         const auto bytes = reinterpret_cast<const char*>(image.constBits());
         if (file.open(QIODevice::WriteOnly) &&
             file.write(bytes, image.sizeInBytes()) == image.sizeInBytes()) {

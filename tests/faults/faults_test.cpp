@@ -1,0 +1,167 @@
+// A day's work with files, whose every operation fails once, and which is killed at any moment. Behind a
+// fault the calculation stands as before or as meant, and every file is the old one or the new one, whole.
+
+#include <gtest/gtest.h>
+#include <cerrno>
+#include <filesystem>
+#include <iostream>
+#include <map>
+
+#include "programs/script/script_runner.h"
+#include "shell/required_files.h"
+#include "storage/calculation_record.h"
+#include "tests/faults/failing_calls.h"
+#include "tests/support/fresh_folder.h"
+
+namespace zifferon {
+namespace {
+
+constexpr const char* work = R"(machine printer "Zett A"
+start
+wait 3000
+type 12,50+
+type 3
+press ENTER
+click Save
+press C
+press C
+type 7*
+type 6
+press ENTER
+press RIGHT
+press RIGHT
+type 1-
+click edit
+type Miete Mai
+click Speichern
+press F5
+type Zwei
+click Speichern
+choose Files "Miete Mai.sav"
+click vorschau
+click vorschau
+answer yes
+click laden
+choose Files "Zwei.sav"
+answer yes
+click löschen
+click leave
+answer yes
+click load
+press F11
+click briefkopf
+close kopf
+type 2+
+answer yes
+press F12
+)";
+
+// The calculation as its record's bytes, and all files.
+struct Moment {
+    std::string calculation;
+    std::map<std::string, std::string> files;
+};
+
+std::string recordBytes(CalculatorState& state) {
+    CalculationRecord record(state);
+    gatherRecord(record);
+    const EncodedRecord encoded(record);
+    std::string bytes;
+    for (const std::string_view piece : encoded.pieces()) bytes += piece;
+    return bytes;
+}
+
+// What a fault may leave of a line's effect: nothing, or all. A file that was to be created may be empty.
+void expectOneOf(const Moment& found, const Moment& before, const Moment& meant) {
+    EXPECT_TRUE(found.calculation == before.calculation || found.calculation == meant.calculation);
+    for (const auto& [name, bytes] : found.files) {
+        const auto isAsIn = [&, &file = name, &content = bytes](const Moment& moment) {
+            const auto other = moment.files.find(file);
+            return other != moment.files.end() ? other->second == content : content.empty();
+        };
+        EXPECT_TRUE(isAsIn(before) || isAsIn(meant)) << name << ": " << bytes.size() << " bytes";
+    }
+}
+
+class Faults : public testing::Test {
+  protected:
+    Faults() { std::filesystem::current_path(folder_.path()); }
+    ~Faults() override { std::filesystem::current_path("/"); }
+
+    void layOut() const {
+        for (const auto& entry : std::filesystem::directory_iterator(".")) std::filesystem::remove_all(entry);
+        for (const char* const name : requiredFiles) folder_.put(name, "");
+        for (const char* const name : {"decpoint.dat", "ntcheck.zfr"}) {
+            folder_.put(name, fromHex("00 00 80 3F"));  // 1, a single: the first run is behind
+        }
+    }
+
+    // The files of the folder; snapshots are not looked at, as Undo drops what it cannot read.
+    Moment momentOf(std::string calculation) const {
+        Moment moment{std::move(calculation), {}};
+        for (const auto& entry : std::filesystem::directory_iterator(".")) {
+            const std::string name = entry.path().filename();
+            if (entry.is_regular_file()) moment.files[name] = folder_.bytes(name);
+        }
+        return moment;
+    }
+
+    // The moments behind each line, and behind the end.
+    std::vector<Moment> workWithoutFaults() {
+        std::vector<Moment> moments;
+        runWork([&](Program& program) { moments.push_back(momentOf(recordBytes(program.pultform.state))); });
+        moments.push_back(momentOf(moments.back().calculation));
+        return moments;
+    }
+
+    // Whether the work came to the fault.
+    bool workWithFault(int n, int error, const std::vector<Moment>& moments) {
+        std::size_t line = 0;
+        bool looked = false;
+        const auto look = [&](const std::string& calculation) {
+            if (failedCall().empty() || looked) return;
+            looked = true;
+            if (line > 0) expectOneOf(momentOf(calculation), moments[line - 1], moments[line]);
+        };
+        armFault(n, error);
+        runWork([&](Program& program) {
+            look(recordBytes(program.pultform.state));
+            ++line;
+        });
+        if (line > 0) look(moments[line - 1].calculation);  // where it has ended the process
+        return !failedCall().empty();
+    }
+
+    std::string told_;
+
+  private:
+    void runWork(const std::function<void(Program&)>& look) {
+        layOut();
+        std::ostringstream told;
+        std::istringstream script(work);
+        ScriptRunner runner(told, told);
+        runner.onLine = [&](std::string_view line, Program& program) {
+            told << line << "  " << failedCall() << '\n';
+            look(program);
+        };
+        EXPECT_NE(runner.run(script), 2);
+        told_ = told.str();
+    }
+
+    FreshFolder folder_;
+};
+
+TEST_F(Faults, leaveTheCalculationAndWholeFiles) {
+    armFault(0, EIO);
+    const std::vector<Moment> moments = workWithoutFaults();
+    std::cout << told_;
+    for (const int error : {ENOSPC, EACCES, EIO, shortWrite}) {
+        for (int n = 1; workWithFault(n, error, moments); ++n) {
+            if (HasFailure()) FAIL() << "fault " << n << " of " << error << ": " << told_;
+        }
+    }
+    for (const auto& [call, times] : countedCalls()) std::cout << call << ' ' << times << '\n';
+}
+
+}  // namespace
+}  // namespace zifferon

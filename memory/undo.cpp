@@ -19,6 +19,7 @@ void Undo::begin() {
 }
 
 void Undo::takeUndoSnapshot() {
+    kept_.reset();
     if (std::exchange(s.undoStepPending, false)) s.undoCounter += 1;
     if (!s.tapeEmptied && !s.specialSnapshotLatch && s.undoActive) {
         s.undoCounter += 1;
@@ -76,22 +77,47 @@ void Undo::clearEntryAndSign() {
 void Undo::stepBack() {
     s.undoCounter -= 1;
     try {
-        decodeRecord(snapshots_.read(s.undoCounter).view(), record_);
+        const FileContent content = snapshots_.read(s.undoCounter);
+        if (content.size() == 0) keep();
+        decodeRecord(content.view(), record_);
+        if (content.size() != 0) kept_.reset();
     } catch (const FileFailure&) {
         return showUnreadable();
     } catch (const RecordFailure&) {
         return showUnreadable();
     }
-    applyCells(record_);
-    applyFields(record_);
-    applyVariables(record_);
+    apply();
     s.calls->focusEntry();
     s.eingabe.locked = false;
     snapshots_.remove(s.undoCounter + 1);
 }
 
+void Undo::keep() {
+    if (kept_) return;
+    gatherRecord(record_);
+    const EncodedRecord encoded(record_);
+    kept_.emplace(Kept{s.undoCounter + 1, ""});
+    for (const std::string_view piece : encoded.pieces()) kept_->bytes += piece;
+}
+
+void Undo::apply() {
+    applyCells(record_);
+    applyFields(record_);
+    applyVariables(record_);
+}
+
+// Its snapshot has gone with the first of the steps back.
+void Undo::returnToKept() {
+    decodeRecord(kept_->bytes, record_);
+    s.undoCounter = kept_->counter;
+    kept_.reset();
+    apply();
+    writeSnapshotFile();
+}
+
 void Undo::showUnreadable() {
     s.undoCounter += 1;
+    if (kept_) returnToKept();
     messages_.titled(u"Undo").warn(
         {u"Der vorige Arbeitsschritt konnte nicht gelesen werden.   \r\n"
          u"Die Rechnung bleibt, wie sie ist.   ",

@@ -52,6 +52,9 @@ class Undo {
     void showInactive();
     void showUnreadable();
     void stepBack();
+    void keep();
+    void apply();
+    void returnToKept();
     void clearEntryAndSign();
 
     CalculatorState& s;
@@ -61,6 +64,14 @@ class Undo {
     CalculationRecord& record_;
     Snapshots snapshots_;
     std::optional<MessageWindow> message_;
+
+    // The calculation before an Undo that has landed on a gap, for as long as the one that goes on from there
+    // may fail.
+    struct Kept {
+        int counter = 0;
+        std::string bytes;
+    };
+    std::optional<Kept> kept_;
 };
 
 }  // namespace zifferon

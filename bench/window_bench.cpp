@@ -10,21 +10,17 @@
 #include <chrono>
 #include <cstdlib>
 #include <string>
-#include <thread>
 
+#include "bench/real_desk.h"
 #include "platform/qt/application.h"
-#include "platform/qt/form_view.h"
-#include "platform/qt/qt_machine.h"
-#include "shell/program.h"
-#include "tests/window/real_input.h"
 
 namespace {
 
 using namespace zifferon;
 namespace keys = test::keys;
 
-// A running calculator whose tape holds so many lines, and hands at its keyboard.
-class Desk {
+// One whose tape holds so many lines.
+class Desk : RealDesk {
   public:
     Desk(std::int64_t lines, bool snapshots) {
         Text tape, print;
@@ -32,14 +28,10 @@ class Desk {
             tape += u"\r\n1.234,56 +   ";
             print += u"\r\n                                                    1.234,56 +";
         }
-        program_.pultform.state.anzeige.setText(tape);
-        program_.pultform.state.superdruck.setText(print);
-        program_.beginFresh();
-        program_.pultform.state.undoActive = snapshots;
-        view_.refresh();
-        while (!view_.isActiveWindow()) passEvents();
-        for (int i = 0; i < 50; ++i) passEvents();
-        hands_.setNumLock(true);
+        program.pultform.state.anzeige.setText(tape);
+        program.pultform.state.superdruck.setText(print);
+        begin();
+        program.pultform.state.undoActive = snapshots;
     }
     ~Desk() { xcb_disconnect(screen_); }
     Desk(const Desk&) = delete;
@@ -49,35 +41,30 @@ class Desk {
     void type(int key) {
         QElapsedTimer clock;
         clock.start();
-        hands_.stroke({key});
-        do passEvents();
+        hands.stroke({key});
+        do rest();
         while (clock.elapsed() < 5);
     }
 
     double secondsToPaintedLine() {
         digit_ = (digit_ + 1) % 9;  // another one each time, or the new line would look like the last
         type(keys::digit1 + digit_);
-        for (int i = 0; i < 10; ++i) passEvents();
+        for (int i = 0; i < 10; ++i) rest();
         const std::string before = endOfTape();
         const auto start = std::chrono::steady_clock::now();
-        hands_.down(keys::keypadAdd);
+        hands.down(keys::keypadAdd);
         do QCoreApplication::processEvents();
         while (endOfTape() == before);
         const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-        hands_.up(keys::keypadAdd);
+        hands.up(keys::keypadAdd);
         return time.count();
     }
 
   private:
-    static void passEvents() {
-        QCoreApplication::processEvents();
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-
     // The pixels of the last lines of the tape.
     std::string endOfTape() {
-        const QRect tape = pixels(program_.pultform.state.anzeige.place);
-        const QPoint corner = view_.mapToGlobal(tape.bottomRight() - QPoint(120, 60));
+        const QRect tape = pixels(program.pultform.state.anzeige.place);
+        const QPoint corner = view.mapToGlobal(tape.bottomRight() - QPoint(120, 60));
         auto* const image = xcb_get_image_reply(
             screen_,
             xcb_get_image(screen_, XCB_IMAGE_FORMAT_Z_PIXMAP, root_, static_cast<std::int16_t>(corner.x()),
@@ -89,10 +76,6 @@ class Desk {
         return bytes;
     }
 
-    QtMachine machine_;
-    Program program_{machine_.machine};
-    FormView view_{program_.pultform, program_.keys};
-    test::RealInput hands_;
     int digit_ = 0;
     xcb_connection_t* screen_ = xcb_connect(nullptr, nullptr);
     xcb_window_t root_ = xcb_setup_roots_iterator(xcb_get_setup(screen_)).data->root;

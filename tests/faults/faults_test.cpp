@@ -214,17 +214,27 @@ TEST_F(Faults, aKillLeavesWhatWasStoredLast) {
         const pid_t child = ::fork();
         if (child == 0) storeNumbers(stored + 1, pipe[1]);
         ::close(pipe[1]);
+        auto readStored = [&, number = 0]() mutable {
+            if (::read(pipe[0], &number, sizeof number) != sizeof number) return false;
+            stored = number;
+            return true;
+        };
+        // Every other one dies behind its start, however slow the machine is.
+        if (kill % 2 == 0) {
+            ASSERT_TRUE(readStored());
+        }
         std::this_thread::sleep_for(std::chrono::microseconds(random() % 8000));
         ::kill(child, SIGKILL);
         ::waitpid(child, nullptr, 0);
-        for (int number = 0; ::read(pipe[0], &number, sizeof number) == sizeof number;) stored = number;
+        while (readStored()) {
+        }
         ::close(pipe[0]);
         const std::string number = numberAfterStart();
         const bool nextIsStored = number == std::to_string(stored + 1) + ",00";
         if (nextIsStored) ++stored;
         EXPECT_TRUE(nextIsStored || number == (stored > 0 ? std::to_string(stored) + ",00" : "0")) << number;
     }
-    EXPECT_GT(stored, 500);
+    EXPECT_GE(stored, 250);
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace zifferon::test {
 namespace keys {
 constexpr int escape = 9, digit1 = 10, enter = 36, control = 37, shift = 50, alt = 64, f4 = 70, f10 = 76,
               numLock = 77;
-constexpr int letterN = 57, letterR = 27, letterV = 55;
+constexpr int letterM = 58, letterN = 57, letterR = 27, letterV = 55;
 constexpr int keypad1 = 87, keypad2 = 88, keypad3 = 89, keypad5 = 84, keypad7 = 79;
 constexpr int keypadDecimal = 91, keypadAdd = 86, keypadSubtract = 82, keypadMultiply = 63;
 constexpr int keypadDivide = 106, keypadEnter = 104, right = 114;

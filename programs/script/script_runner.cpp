@@ -275,7 +275,11 @@ bool ScriptRunner::runLook(const std::string& command, ScriptLine& line) {
         return true;
     }
     if (command == "expect") return expect(line), true;
-    if (command == "expect-event") return expectEvent(line), true;
+    if (command == "expect-event") {
+        do expectEvent(toUtf8(line.quotedText()));
+        while (!line.atEnd());
+        return true;
+    }
     if (command == "expect-no-event") return expectNoEvent(line), true;
     if (command == "expect-tape") return expectLines("anzeige", line), true;
     if (command == "expect-print") return expectLines("superdruck", line), true;
@@ -408,24 +412,26 @@ void ScriptRunner::show(std::string_view name) {
 
 namespace {
 
-// The expected value in the one form in which values are shown.
+// The next value of the line, in the one form in which values are shown.
 std::string normalised(ScriptLine& line) {
     if (line.atQuote()) return quoted(line.quotedText());
     const std::string word = line.word();
-    if (word == "text" && line.atQuote()) return "text " + quoted(line.quotedText());
-    const std::string rest = line.remainder();
-    return rest.empty() ? word : word + ' ' + rest;
+    if (word == "text") return "text " + quoted(line.quotedText());
+    const bool isKind = word == "int" || word == "double" || word == "decimal";
+    return isKind ? word + ' ' + line.word() : word;
 }
 
 }  // namespace
 
+// One name and its value behind the other.
 void ScriptRunner::expect(ScriptLine& line) {
-    const std::string name = line.word();
-    const auto found = valueOf(name, program(), headless_);
-    if (!found) throw MalformedScript("unknown name " + name);
-    const std::string expected = normalised(line);
-    line.expectEnd();
-    if (*found != expected && *found != "int " + expected) fail(name, expected, *found);
+    do {
+        const std::string name = line.word();
+        const auto found = valueOf(name, program(), headless_);
+        if (!found) throw MalformedScript("unknown name " + name);
+        const std::string expected = normalised(line);
+        if (*found != expected && *found != "int " + expected) fail(name, expected, *found);
+    } while (!line.atEnd());
 }
 
 namespace {
@@ -452,9 +458,7 @@ bool matches(std::string_view event, std::string_view line) {
 }  // namespace
 
 // Where another event comes first the story goes on behind the one that it expected, if that has come at all.
-void ScriptRunner::expectEvent(ScriptLine& line) {
-    const std::string expected = toUtf8(line.quotedText());
-    line.expectEnd();
+void ScriptRunner::expectEvent(const std::string& expected) {
     std::deque<std::string>& events = headless_.events();
     const auto isExpected = [&](const std::string& event) { return matches(event, expected); };
     const auto found = std::find_if(events.begin(), events.end(), isExpected);

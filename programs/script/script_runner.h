@@ -70,7 +70,7 @@ class ScriptRunner {
     void select(const std::string& command, ScriptLine& line);
     void show(std::string_view name);
     void expect(ScriptLine& line);
-    void expectEvent(ScriptLine& line);
+    void expectEvent(const std::string& expected);
     void expectNoEvent(ScriptLine& line);
     void expectLines(const char* fieldName, ScriptLine& line);
     void fail(std::string_view name, std::string_view expected, std::string_view found);

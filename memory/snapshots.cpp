@@ -114,14 +114,14 @@ bool Snapshots::fold() {
         giveUp(reading);
         return true;
     }
-    Folded folded{oldest, {}};
-    for (std::size_t i = 0; i < pieceCount; ++i) {
+    FoldedSnapshot folded{oldest, {}};
+    for (std::size_t i = 0; i < folded.changes.size(); ++i) {
         const std::string_view old = baseRecord_.pieces[i];
         const std::size_t prefix = commonPrefix(old, newer.pieces[i]);
         const std::size_t suffix = commonSuffix(old.substr(prefix), newer.pieces[i].substr(prefix));
         folded.changes[i] = {prefix, suffix, std::string(old.substr(prefix, old.size() - prefix - suffix))};
     }
-    folded_.push_back(std::move(folded));
+    folded_.push(folded);
     setBase(next, std::move(newer));
     removeFile(oldest);
     return true;
@@ -135,13 +135,14 @@ void Snapshots::giveUp(int number) {
     lostUpTo_ = number;
 }
 
-Snapshots::Record Snapshots::unfolded(const Folded& older, const Record& newer) {
+Snapshots::Record Snapshots::unfolded(const FoldedSnapshot& older, const Record& newer) {
     std::size_t size = 0;
-    for (const Change& change : older.changes) size += change.prefix + change.middle.size() + change.suffix;
+    for (const PieceChange& change : older.changes)
+        size += change.prefix + change.middle.size() + change.suffix;
     FileContent content(size);
     char* next = content.data();
-    for (std::size_t i = 0; i < pieceCount; ++i) {
-        const Change& change = older.changes[i];
+    for (std::size_t i = 0; i < older.changes.size(); ++i) {
+        const PieceChange& change = older.changes[i];
         const std::string_view piece = newer.pieces[i];
         for (const std::string_view part : {piece.substr(0, change.prefix), std::string_view(change.middle),
                                             piece.substr(piece.size() - change.suffix)}) {
@@ -153,18 +154,23 @@ Snapshots::Record Snapshots::unfolded(const Folded& older, const Record& newer) 
 
 // Makes the newest of those that are folded a file again, on which the others rest.
 void Snapshots::unfold() {
-    const int number = folded_.back().number;
-    Record record = unfolded(folded_.back(), baseRecord_);
+    const FoldedSnapshot newest = folded_.newest();
+    Record record = unfolded(newest, baseRecord_);
     const std::string_view bytes = record.content.view();
     try {
-        writeFile(number, std::span(&bytes, 1));
+        writeFile(newest.number, std::span(&bytes, 1));
     } catch (const FileFailure&) {
         return;
     }
-    folded_.pop_back();
-    setBase(number, std::move(record));
-    whole_[number] = bytes.size();
+    dropNewestFolded();
+    setBase(newest.number, std::move(record));
+    whole_[newest.number] = bytes.size();
     wholeBytes_ += bytes.size();
+}
+
+void Snapshots::dropNewestFolded() {
+    const int number = folded_.newest().number;
+    if (!folded_.pop()) lostUpTo_ = number - 1;
 }
 
 void Snapshots::setBase(int number, Record record) {
@@ -176,12 +182,13 @@ void Snapshots::setBase(int number, Record record) {
 // next one below becomes a file.
 void Snapshots::forgetFrom(int number) {
     while (!whole_.empty() && whole_.rbegin()->first >= number) removeFile(whole_.rbegin()->first);
-    for (; !folded_.empty() && folded_.back().number >= number; folded_.pop_back()) {
-        setBase(folded_.back().number, unfolded(folded_.back(), baseRecord_));
+    for (; !folded_.empty() && folded_.newest().number >= number; dropNewestFolded()) {
+        const FoldedSnapshot newest = folded_.newest();
+        setBase(newest.number, unfolded(newest, baseRecord_));
     }
     if (folded_.empty()) return;
     unfold();
-    if (whole_.empty()) giveUp(folded_.back().number);
+    if (whole_.empty()) giveUp(folded_.newest().number);
 }
 
 }  // namespace zifferon

@@ -1,6 +1,6 @@
 // The snapshots of Undo by their numbers. The newest are files of the folder Temp, each the exact bytes of a
-// record. An older one is folded: kept in memory as what the next newer one has otherwise, mostly a line of
-// the tape. So a day's work costs what its tape costs, and not that once for each of its steps.
+// record. An older one is folded: kept as what the next newer one has otherwise, mostly a line of the tape.
+// So a day's work costs what its tape costs, and not that once for each of its steps.
 //
 // When the newest go by Undo, folded ones become files again, one for each that goes.
 #pragma once
@@ -8,8 +8,8 @@
 #include <array>
 #include <map>
 #include <string>
-#include <vector>
 
+#include "memory/folded_snapshots.h"
 #include "platform/files.h"
 #include "storage/calculation_record.h"
 
@@ -22,11 +22,13 @@ class Snapshots {
     struct Limits {
         std::size_t files = 200;
         std::size_t bytes = std::size_t{64} << 20;
+        std::size_t foldedBytes = std::size_t{1} << 20;  // of folded ones in one piece
     };
 
     // `files` must outlive it.
     explicit Snapshots(Files& files) : Snapshots(files, Limits()) {}
-    Snapshots(Files& files, Limits limits) : files_(files), limits_(limits) {}
+    Snapshots(Files& files, Limits limits)
+        : files_(files), limits_(limits), folded_(files, limits.foldedBytes) {}
 
     // Forgets all of them and empties the folder. Never fails: what is left there is overwritten by its
     // number, or never read.
@@ -45,31 +47,20 @@ class Snapshots {
     void remove(int number);
 
   private:
-    static constexpr std::size_t pieceCount = 5;
-
     // A record's bytes and the pieces that they fall into.
     struct Record {
         FileContent content;
-        std::array<std::string_view, pieceCount> pieces;
-    };
-
-    // One piece of a record, told by the same piece of the next newer one.
-    struct Change {
-        std::size_t prefix = 0, suffix = 0;  // so many bytes at both ends are those of the newer one
-        std::string middle;                  // what stands between them
-    };
-    struct Folded {
-        int number;
-        std::array<Change, pieceCount> changes;
+        std::array<std::string_view, FoldedSnapshot::pieceCount> pieces;
     };
 
     static std::string fileOf(int number);
     static Record recordOf(FileContent content);
-    static Record unfolded(const Folded& older, const Record& newer);
+    static Record unfolded(const FoldedSnapshot& older, const Record& newer);
     void writeFile(int number, std::span<const std::string_view> pieces);
     bool tooMuch() const;
     bool fold();
     void unfold();
+    void dropNewestFolded();
     void setBase(int number, Record record);
     void removeFile(int number);
     void forgetFile(int number);
@@ -80,8 +71,8 @@ class Snapshots {
     Limits limits_;
     std::map<int, std::size_t> whole_;  // the numbers that are files, with their sizes
     std::size_t wholeBytes_ = 0;
-    std::vector<Folded> folded_;  // all below those that are files, in ascending order
-    int base_ = -1;               // the oldest that is a file, in memory, while any are folded
+    FoldedSnapshots folded_;  // all below those that are files
+    int base_ = -1;           // the oldest that is a file, in memory, while any are folded
     Record baseRecord_;
     int lostUpTo_ = -1;  // up to this number there were snapshots that can no longer be had
 };

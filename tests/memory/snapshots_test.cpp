@@ -79,7 +79,9 @@ class SnapshotsTest : public testing::TestWithParam<unsigned> {
 
 // Steps, undone ones, and numbers that are taken back without their files, in any order.
 TEST_P(SnapshotsTest, comeBackAsTheyWere) {
-    Snapshots snapshots(disk_, {.files = 2 + GetParam() % 5, .bytes = std::size_t{4000} * (1 + GetParam())});
+    Snapshots snapshots(disk_, {.files = 2 + GetParam() % 5,
+                                .bytes = std::size_t{4000} * (1 + GetParam()),
+                                .foldedBytes = std::size_t{500} << GetParam()});
     write(snapshots);
     for (int i = 0; i < 1500; ++i) {
         const bool up = random_() % 100 < (i % 300 < 150 ? 80 : 20);
@@ -123,6 +125,33 @@ TEST_P(SnapshotsTest, knowWhatIsLost) {
     counter_ = 6;
     write(snapshots);
     EXPECT_EQ(snapshots.read(6).view(), copies_[6]);
+}
+
+// The same of what lies so deep that only a file holds it.
+TEST_P(SnapshotsTest, knowWhatIsLostInTheDepth) {
+    Snapshots snapshots(disk_, {.files = 2, .bytes = 1 << 20, .foldedBytes = 1000});
+    for (; counter_ < 100; ++counter_) {
+        if (counter_ > 0) change();
+        write(snapshots);
+    }
+    --counter_;
+    ASSERT_TRUE(disk_.FileExists("Temp/older1.tmp"));
+    const std::string bytes = folder_.bytes("Temp/older1.tmp");
+    GetParam() % 2 == 0 ? disk_.remove("Temp/older1.tmp")
+                        : folder_.put("Temp/older1.tmp", bytes.substr(1) + '-');
+    int above = counter_;
+    while (counter_ > 1) {
+        try {
+            undo(snapshots);
+            above = counter_;
+        } catch (const FileFailure&) {
+            // The step is lost.
+        }
+        if (HasFatalFailure()) return;
+    }
+    EXPECT_GT(above, 2);
+    EXPECT_LT(above, 97);
+    EXPECT_FALSE(disk_.FileExists("Temp/older0.tmp"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, SnapshotsTest, testing::Range(0u, 6u));

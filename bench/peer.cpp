@@ -155,7 +155,8 @@ void press(zifferon::test::RealInput& hands, const std::string& chords) {
         std::istringstream each(chord);
         for (std::string key; std::getline(each, key, '+');) held.push_back(std::stoi(key));
         for (const int key : held) hands.down(key);
-        for (auto key = held.rbegin(); key != held.rend(); ++key) hands.up(*key);
+        std::reverse(held.begin(), held.end());
+        for (const int key : held) hands.up(key);
         std::this_thread::sleep_for(200ms);
     }
 }

@@ -15,11 +15,11 @@ Text PosixSystem::computerName() const {
 
 #ifdef ZIFFERON_WITH_ICU
 
-#include <unicode/uloc.h>
-
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 namespace zifferon {
 
@@ -40,12 +40,28 @@ std::string numberLocale() {
 constexpr std::uint32_t mainCountry = 0x0400;
 constexpr std::uint32_t noLanguage = 0x007F;
 
+struct LocaleCode {
+    std::string_view name;
+    std::uint32_t identifier;
+};
+
+constexpr LocaleCode localeCodes[] = {
+#include "locale_codes.inc"
+};
+
+// 0, which is none, for a name that the table has not.
+std::uint32_t identifierOf(std::string_view name) {
+    const auto found = std::ranges::lower_bound(localeCodes, name, {}, &LocaleCode::name);
+    return found != std::end(localeCodes) && found->name == name ? found->identifier : 0;
+}
+
 }  // namespace
 
 std::string PosixSystem::GetDecStyle() const {
     const std::string locale = numberLocale();
     if (locale.empty() || locale == "C" || locale == "POSIX") return "";
-    std::uint32_t identifier = uloc_getLCID(locale.c_str());
+    std::uint32_t identifier = identifierOf(locale);
+    if (identifier == 0) identifier = identifierOf(locale.substr(0, locale.find('_')));
     if (identifier == 0 || identifier == noLanguage) return "";
     if (identifier < mainCountry) {
         if (locale.find('_') != std::string::npos) return "";

@@ -1,6 +1,6 @@
-// make_icon SVG SIZE FILE: draws the picture SVG, which is square, with SIZE pixels a side into FILE, which is
-// a PNG picture where its name ends so. Otherwise it has the rows from the top, for each pixel blue, green,
-// red and opacity, a byte each, the colours multiplied with the opacity.
+// make_icon SVG WIDTH HEIGHT FILE: draws the picture SVG with so many pixels into FILE, which is a PNG
+// picture where its name ends so. Otherwise it has the rows from the top, for each pixel blue, green, red and
+// opacity, a byte each, the colours multiplied with the opacity.
 #include <QFile>
 #include <QImage>
 #include <QPainter>
@@ -9,15 +9,15 @@
 #include <iostream>
 
 int main(int argc, char** argv) {
-    const int size = argc == 4 ? std::atoi(argv[2]) : 0;
+    const QSize size = argc == 5 ? QSize(std::atoi(argv[2]), std::atoi(argv[3])) : QSize();
     QSvgRenderer drawing;
-    if (size > 0 && drawing.load(QString::fromLocal8Bit(argv[1]))) {
-        QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    if (!size.isEmpty() && drawing.load(QString::fromLocal8Bit(argv[1]))) {
+        QImage image(size, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         QPainter painter(&image);
         drawing.render(&painter);
         painter.end();
-        const QString name = QString::fromLocal8Bit(argv[3]);
+        const QString name = QString::fromLocal8Bit(argv[4]);
         if (name.endsWith(".png")) return image.save(name) ? EXIT_SUCCESS : EXIT_FAILURE;
         QFile file(name);
         const auto bytes = reinterpret_cast<const char*>(image.constBits());

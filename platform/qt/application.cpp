@@ -24,6 +24,7 @@ int& withOwnStyle(int& argc) {
 QFont arial(int pixels) {
     QFont font(QStringLiteral("Arial"));
     font.setPixelSize(pixels);
+    font.setStyleStrategy(QFont::PreferNoShaping);  // as in the controls
     return font;
 }
 

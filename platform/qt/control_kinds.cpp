@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QResource>
 #include <QSvgRenderer>
 #include <QToolButton>
 
@@ -143,8 +144,8 @@ class FrameView : public ControlView {
     std::optional<Text> caption_;
 };
 
-// A drawing, sharp at every scale, and read when it is first seen. Without one the picture is a mere place,
-// and what lies below it is seen.
+// A drawing, sharp at every scale, and read when it is first seen; what the start shows is drawn by the build
+// for the usual scale. Without one the picture is a mere place, and what lies below it is seen.
 class Picture : public QWidget {
   public:
     using QWidget::QWidget;
@@ -152,6 +153,7 @@ class Picture : public QWidget {
     void setDrawing(TextView name) {
         setAutoFillBackground(!name.empty());
         fileName_ = name.empty() ? QString() : drawingOf(name);
+        pixels_.setFileName(QStringLiteral(":/pixels/") + toQString(name));
         drawing_.reset();
         update();
     }
@@ -159,12 +161,17 @@ class Picture : public QWidget {
   private:
     void paintEvent(QPaintEvent*) override {
         if (fileName_.isEmpty()) return;
-        if (!drawing_) drawing_ = std::make_unique<QSvgRenderer>(fileName_);
         QPainter painter(this);
+        if (devicePixelRatioF() == 1 && pixels_.size() == qint64{4} * width() * height()) {
+            constexpr auto format = QImage::Format_ARGB32_Premultiplied;
+            return painter.drawImage(0, 0, QImage(pixels_.data(), width(), height(), format));
+        }
+        if (!drawing_) drawing_ = std::make_unique<QSvgRenderer>(fileName_);
         drawing_->render(&painter);
     }
 
     QString fileName_;
+    QResource pixels_;
     std::unique_ptr<QSvgRenderer> drawing_;
 };
 

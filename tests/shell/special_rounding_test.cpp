@@ -8,11 +8,9 @@ namespace {
 using SpecialRounding = FreshProgramTest;
 
 Text amount(int cents) {
-    const int size = std::abs(cents);
-    Text text(cents < 0 ? 1 : 0, u'-');
-    text += fromUtf8(std::to_string(size / 100));
-    text += u',';
-    return text += fromUtf8(std::to_string(size % 100 + 100).substr(1));
+    const std::string digits = std::to_string(std::abs(cents) + 1000);  // of four digits
+    const std::string text = digits.substr(1, 1) + ',' + digits.substr(2);
+    return fromUtf8((cents < 0 ? "-" : "") + text);
 }
 
 TEST_F(SpecialRounding, takesTotalsToTheNearestMultiple) {

@@ -99,7 +99,7 @@ TEST_F(StoredCalculationsTest, whatIsNoFileIsNoCalculation) {
     headless_.queueAnswer(BoxAnswer::yes);
     store(u"e");
     EXPECT_TRUE(std::filesystem::is_symlink(folder_ / "e.sav"));
-    EXPECT_GT(folder_.bytes("d.sav").size(), 100U);
+    EXPECT_NE(folder_.bytes("d.sav"), "");
 }
 
 // Behind the questions the paper is empty, and with the answer No its text is back.

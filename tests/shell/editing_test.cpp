@@ -1,4 +1,4 @@
-// Paste and undo, whatever state the calculator is in; copies and menus are seen by the walks.
+// Pasting, whatever state the calculator is in. Copying, undoing and the menus are seen by the walks.
 
 #include <algorithm>
 
@@ -92,44 +92,6 @@ TEST_F(Editing, aCellTakesOneFigureANameOneLineAndAButtonNothing) {
     paste(u"5+6");
     EXPECT_EQ(beeps(), 1);
     EXPECT_EQ(entry(), "");
-}
-
-TEST_F(Editing, thePrintCopyTakesBackWhatWasTypedThere) {
-    TextField& copy = state().superdruck;
-    type(u"5+");
-    const Text calculated = copy.text();
-    program_.pultform.page.edit.click();
-    program_.pultform.setFocus(copy);
-    copy.setCaret(2);
-    type(u"Miete\rMai");
-    copy.select(2, 3);
-    type(u"\b");
-    EXPECT_EQ(copy.text().substr(0, 9), u"\r\nte\r\nMai");
-    undo();
-    EXPECT_EQ(copy.selectionLength(), 3U);
-    for (int i = 0; i < 3; ++i) undo();
-    EXPECT_EQ(copy.text(), calculated);
-    EXPECT_EQ(state().undoCounter, 1);
-    // the calculator's own lines are no change of the user's
-    type(u"A");
-    program_.pultform.page.leave.click();
-    type(u"3+");
-    program_.pultform.page.edit.click();
-    program_.pultform.setFocus(copy);
-    const Text now = copy.text();
-    undo();
-    EXPECT_EQ(copy.text(), now);
-}
-
-TEST_F(Editing, theMenuCopiesTheTapeAndPastes) {
-    type(u"2*3\r");
-    std::vector<MenuEntry> menu = state().anzeige.menu();
-    EXPECT_TRUE(!menu[0].enabled && !menu[1].enabled && menu[2].enabled);
-    menu[2].onChoose();
-    EXPECT_EQ(headless_.text(), u"2,00\n3,00 x\n\n6,00 =");
-    headless_.setText(u"7 EUR");
-    state().eingabe.menu()[1].onChoose();
-    EXPECT_EQ(entry(), "7");
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // A failure at every call of the print device.
 
-#include "print/printers.h"
 #include "tests/support/headless_test.h"
 
 namespace zifferon {
@@ -44,16 +43,6 @@ TEST_F(PrintingTest, aSizeThatIsNoneFails) {
     headless_.printer.setFontSize(u"999");
     headless_.printer.setFontSize(u"7");
     EXPECT_EQ(log_.str(), "print size 999\nprint size 7\n");
-}
-
-TEST_F(PrintingTest, theFirstOfTwoPrintersOfOneNameServes) {
-    for (const char16_t* name : {u"Zett A", u"Zett B", u"Zett B"}) headless_.printer.addPrinter(name);
-    ComboBox combo;
-    EXPECT_EQ(GetPrinters(combo, headless_.printer), u"Zett A");
-    combo.setText(u"Zett B");
-    EXPECT_EQ(combo.row(), 2);
-    EXPECT_TRUE(selectPrinter(u"Zett B", headless_.printer));
-    EXPECT_FALSE(selectPrinter(u"zett b", headless_.printer));
 }
 
 }  // namespace

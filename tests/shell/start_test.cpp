@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <tuple>
 
 #include "shell/required_files.h"
+#include "shell/send_keys.h"
 #include "shell/start_windows.h"
 #include "tests/support/headless_test.h"
 
@@ -15,26 +15,23 @@ namespace {
 // What a hand without a mouse chooses in the window of the first run.
 TEST(LanguageWindow, isUsedByTheKeyboard) {
     using enum Language;
-    constexpr Key tab{keyCode::tab}, left{keyCode::left}, enter{keyCode::enter, 13}, f3{keyCode::f3};
-    const Key blank = keyOfCharacter(u' '), e = keyOfCharacter(u'e'), d = keyOfCharacter(u'D');
-    using Choice = std::optional<Language>;
-    const std::tuple<Language, std::vector<Key>, Choice> rows[] = {
-        {german, {enter}, german},
-        {english, {blank}, english},
-        {german, {tab, enter}, english},
-        {english, {left, blank}, german},
-        {german, {tab, left, enter}, german},
-        {german, {f3, enter}, german},
-        {german, {e}, english},
-        {english, {d}, german},
-        {german, {keyOfCharacter(u'x'), tab}, std::nullopt}};
+    const std::tuple<Language, TextView, std::optional<Language>> rows[] = {
+        {german, u"{ENTER}", german},
+        {english, u" ", english},
+        {german, u"{TAB}{ENTER}", english},
+        {english, u"{LEFT} ", german},
+        {german, u"{TAB}{LEFT}{ENTER}", german},
+        {german, u"{F3}{ENTER}", german},
+        {german, u"e", english},
+        {english, u"D", german},
+        {german, u"x{TAB}", std::nullopt}};
     for (const auto& [ofTheDesktop, typed, choice] : rows) {
         Form3 window(ofTheDesktop);
         KeyRoad keys(window, [] {});
         window.visible = true;
         window.onActivate();
-        for (const Key key : typed) keys.stroke(key);
-        EXPECT_EQ(window.choice(), choice) << &typed - &std::get<1>(rows[0]);
+        for (const Key key : keysOfNotation(typed)) keys.stroke(key);
+        EXPECT_EQ(window.choice(), choice) << toUtf8(typed);
     }
 }
 
@@ -73,13 +70,10 @@ TEST_F(Start, stopsWhereAnyComponentIsMissingAndWritesNothing) {
 
 // The sound of the start comes from a window that is seen; in the tray it neither sounds nor is made up for.
 TEST_F(Start, isHeardOnlyWhereItIsSeen) {
-    {
-        Program program(machine_);
-        program.keys.run([&] { program.start(); });
-        program.keys.run([&] { program.pultform.state.Checksound.setTicked(true); });
-        type(program, u"5+");
-    }
-    folder_.put("quicksave.zfr", folder_.bytes("Temp/temp1.tmp"));
+    CalculatorState heard;
+    CalculationRecord record(heard);
+    record.recordSound = 1;
+    writeRecord(files_, "quicksave.zfr", record);
     const std::string seen, inTray = fromHex("04 00 00 00 00 00 04 00 00 00 00 00 02 00 00 00 02 00 01 00");
     for (const auto& [options, sounds] : {std::pair(seen, true), std::pair(inTray, false)}) {
         folder_.put("winstate.dat", options);
@@ -99,16 +93,19 @@ TEST_F(Start, isHeardOnlyWhereItIsSeen) {
 
 // A number between two schemes is none, and leaves the designed colours.
 TEST_F(Start, takesOnlyWholeNumbersForColourSchemes) {
-    for (const auto& [bytes, scheme] :
-         {std::pair("00 00 20 40", 0), std::pair("00 00 40 40", 3), std::pair("00 00 80 BF", 0),
-          std::pair("00 00 88 41", 0), std::pair("00 00 C0 7F", 0), std::pair("00 00 00 00", -1)}) {
+    constexpr int none = 0;
+    for (const auto& [bytes, scheme] : {std::pair("00 00 20 40", none),
+                                        {"00 00 40 40", 3},
+                                        {"00 00 80 BF", none},
+                                        {"00 00 88 41", none},
+                                        {"00 00 C0 7F", none}}) {
         folder_.put("gui1.dat", fromHex(bytes));
         folder_.put("gui2.dat", fromHex(bytes));
         headless_.beginAnew();
         Program program(machine_);
         program.keys.run([&] { program.start(); });
-        EXPECT_EQ(program.colours.textScheme(), scheme < 0 ? standardTextScheme : scheme);
-        EXPECT_EQ(program.colours.backScheme(), scheme < 0 ? standardBackScheme : scheme);
+        EXPECT_EQ(program.colours.textScheme(), scheme) << bytes;
+        EXPECT_EQ(program.colours.backScheme(), scheme) << bytes;
     }
 }
 

@@ -102,29 +102,6 @@ TEST_F(StoredCalculationsTest, whatIsNoFileIsNoCalculation) {
     EXPECT_NE(folder_.bytes("d.sav"), "");
 }
 
-// Behind the questions the paper is empty, and with the answer No its text is back.
-TEST_F(StoredCalculationsTest, hidesThePrintCopyWhileItAsks) {
-    type(u"5+");
-    store(u"a");
-    const TextField& copy = state().superdruck;
-    int asked = 0;
-    headless_.onUnansweredQuestion = [&] {
-        ++asked;
-        EXPECT_EQ(copy.foreColour, copy.backColour);
-    };
-    for (const Control* button : {&page().laden, &page().killfile}) {
-        choose();
-        run(button->onClick);
-        EXPECT_EQ(copy.foreColour, Colour());
-    }
-    choose();
-    run(page().Files.onMouseDown);
-    EXPECT_EQ(copy.foreColour, copy.backColour);
-    run([&] { program_.pultform.setFocus(page().txtvorschau); });
-    EXPECT_EQ(copy.foreColour, Colour());
-    EXPECT_EQ(asked, 2);
-}
-
 TEST_F(StoredCalculationsTest, aNameOfAnotherCharacterSetIsLoaded) {
     type(u"5+");
     store(u"a");

@@ -26,27 +26,6 @@ TEST_F(UndoFiles, whatAnotherProgramHasDamagedOrDeletedLeavesTheCalculationAlone
     EXPECT_TRUE(keeps());
 }
 
-// Of a long calculation the newest 200 are files, and every step comes back.
-TEST_F(UndoFiles, olderOnesAreFoldedAndComeBack) {
-    const auto files = [&] {
-        const std::filesystem::directory_iterator temp(folder_ / "Temp");
-        return std::distance(begin(temp), end(temp));
-    };
-    std::vector<Text> tapes{state().anzeige.text()};
-    for (int step = 1; step <= 500; ++step) {
-        type(step % 7 == 0 ? u"m33*" : u"12,5+");
-        tapes.resize(static_cast<std::size_t>(state().undoCounter));
-        tapes.push_back(state().anzeige.text());
-        if (step % 90 == 0) program_.pultform.nixspez.click();  // the next step takes its number again
-    }
-    EXPECT_EQ(files(), 200);
-    while (state().undoCounter > 0) {
-        undo();
-        ASSERT_EQ(state().anzeige.text(), tapes[static_cast<std::size_t>(state().undoCounter)]);
-    }
-    EXPECT_EQ(files(), 1);
-}
-
 TEST_F(UndoFiles, aLostFolderIsMadeAnewOrEndsTheProcess) {
     type(u"5+");
     std::filesystem::remove_all(folder_ / "Temp");

@@ -20,10 +20,12 @@
 namespace zifferon {
 namespace {
 
+// A # is any digit.
 const std::vector<TextView> sentences = parted(
     u"1|2,5|100|0,05|12345,678|999999|{+}|-|*|/|{ENTER}|{ENTER}|{ENTER}{ENTER}|c|p|{%}|d|w| |v|t|m1|m2|r1|r2|"
     u"{RIGHT}|{BS}|{ESC}|<|5{+}3{ENTER}|200p10{ENTER}|d100{ENTER}110{ENTER}|16w|8/0{ENTER}|19p|m3{ENTER}|mm|"
-    u"7*6{ENTER}{ENTER}c|r9|{DEL}|{LEFT}{HOME}{END}|{PGUP}7",
+    u"7*6{ENTER}{ENTER}c|r9|{DEL}|{LEFT}{HOME}{END}|{PGUP}7|>>>|"
+    u"#,##{+}0{ENTER} |#,##v{+}0{ENTER} ",
     u"|");
 const std::vector<TextView> commands = parted(
     u"{F2}|{F6}|{F7}|{F8}|{F10}|m{F3}|m{F4}|{F9}|{TAB}|{F5}|{UP}|{DOWN}|{F1}|{F11}|{PGDN}|{RIGHT}", u"|");
@@ -55,6 +57,7 @@ class Walk : HeadlessStage {
         for (const char16_t* const name : {u"Zett A", u"Zett B"}) headless_.printer.addPrinter(name);
         headless_.setClock({});
         system_.clock = [this] { return headless_.now(); };
+        headless_.onUnansweredQuestion = [this] { digestState(); };  // what it covers
         headless_.whileModal = [this](const Window& window) {
             for (int i = 0; i < 20 && window.visible; ++i) step();
             headless_.inUse().window->visible = false;
@@ -175,10 +178,10 @@ class Walk : HeadlessStage {
     void step() {
         const HeadlessMachine::InUse in = headless_.inUse();
         const unsigned kind = below(24);
-        if (kind < 15) return type(anyOf(sentences));
+        if (kind < 15) return type(Text(anyOf(sentences)));
         if (kind == 15) {
             headless_.queueAnswer(std::array{BoxAnswer::yes, BoxAnswer::no, BoxAnswer::cancel}[below(3)]);
-            return type(anyOf(commands));
+            return type(Text(anyOf(commands)));
         }
         if (kind == 16) return headless_.wait(below(1500));
         if (kind == 17 && in.window->onPaste) return in.window->onPaste(tell(anyOf(pasted)));
@@ -191,8 +194,9 @@ class Walk : HeadlessStage {
         return what;
     }
 
-    void type(TextView keys) {
-        for (const Key key : keysOfNotation(Text(tell(keys)))) headless_.inUse().keys->stroke(key);
+    void type(Text keys) {
+        for (char16_t& unit : keys) unit = unit == u'#' ? static_cast<char16_t>(u'0' + below(10)) : unit;
+        for (const Key key : keysOfNotation(tell(keys))) headless_.inUse().keys->stroke(key);
     }
 
     void edit(Window& window) {
@@ -218,7 +222,7 @@ class Walk : HeadlessStage {
         if (reachable.empty()) return;
         Control& control = *anyOf(reachable);
         tell(u"[" + control.name + u"]");
-        headless_.queueAnswer(below(2) == 0 ? BoxAnswer::yes : BoxAnswer::no);
+        if (below(4) == 0) headless_.queueAnswer(BoxAnswer::yes);
         if (control.draggable) return drop(window, keys, control);
         mousePress(window, keys, control);
         if (below(8) == 0) headless_.wait(5500);

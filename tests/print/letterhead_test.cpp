@@ -58,17 +58,6 @@ class LetterheadTest : public testing::Test {
     Kopf kopf{language};
 };
 
-TEST_F(LetterheadTest, hasItsDefaultsFromAnAbsentFileWhichStaysBehindEmpty) {
-    readLetterhead(files, kopf);
-    completeFonts(kopf);
-    EXPECT_TRUE(folder.has("setup.zfr"));
-    EXPECT_EQ(folder.bytes("setup.zfr"), "");
-    for (const Kopf::Line& line : kopf.lines) EXPECT_EQ(line.text.text() + line.size.text(), u"12");
-    for (const Kopf::Look& look : kopf.looks) EXPECT_EQ(look.font.text(), u"Arial");
-    EXPECT_EQ(kopf.Combo6.text(), u"8");
-    EXPECT_FALSE(kopf.checkstamm.ticked());
-}
-
 TEST_F(LetterheadTest, bringsEachItemToItsControl) {
     read(encoded({}) + "a longer record's tail", kopf);
     completeFonts(kopf);

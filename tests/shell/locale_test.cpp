@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <tuple>
 
-#include "platform/headless/headless_system.h"
 #include "platform/posix_system.h"
 
 namespace zifferon {
@@ -36,17 +35,6 @@ TEST(Locale, tableSortsTheLocales) {
         ++count[static_cast<std::size_t>(separatorOfLocale(text.data()))];
     }
     EXPECT_TRUE(count[0] == 103 && count[1] == 102) << count[0] << ' ' << count[1];
-}
-
-TEST(Locale, framesAreModernUnlessTheSystemIsOldOrHasAStyle) {
-    HeadlessSystem system;
-    for (const auto& [name, style, modern] : {std::tuple("Windows XP", "", true),
-                                              {"Windows 98 SE", "", false},
-                                              {"Windows NT", "Standard", false}}) {
-        system.name = name;
-        system.style = style;
-        EXPECT_EQ(hasModernFrame(system), modern) << name;
-    }
 }
 
 #ifdef ZIFFERON_WITH_ICU

@@ -91,24 +91,6 @@ TEST_F(Start, isHeardOnlyWhereItIsSeen) {
     }
 }
 
-// A number between two schemes is none, and leaves the designed colours.
-TEST_F(Start, takesOnlyWholeNumbersForColourSchemes) {
-    constexpr int none = 0;
-    for (const auto& [bytes, scheme] : {std::pair("00 00 20 40", none),
-                                        {"00 00 40 40", 3},
-                                        {"00 00 80 BF", none},
-                                        {"00 00 88 41", none},
-                                        {"00 00 C0 7F", none}}) {
-        folder_.put("gui1.dat", fromHex(bytes));
-        folder_.put("gui2.dat", fromHex(bytes));
-        headless_.beginAnew();
-        Program program(machine_);
-        program.keys.run([&] { program.start(); });
-        EXPECT_EQ(program.colours.textScheme(), scheme) << bytes;
-        EXPECT_EQ(program.colours.backScheme(), scheme) << bytes;
-    }
-}
-
 // Neither a settings file that cannot be read nor one that cannot be written answers the question.
 TEST_F(Start, asksForTheSeparatorWhereItCannotBeKept) {
     system_.locale = "";

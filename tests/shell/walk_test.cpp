@@ -104,27 +104,33 @@ class Walk : HeadlessStage {
         }
     }
 
-    // The next day begins with the last step of this one, and one file may be damaged.
+    // The next day begins with the last step of this one, and some files may be damaged.
     void startAnew() {
         static const std::vector<std::string> locales = {"00000407", "00000409", "00000C07", ""};
+        static const std::vector<std::string> systems = {"Windows XP", "Windows 98 SE", "Windows NT"};
         static const std::vector<std::string> settings = {
             "language.dat",  "decpoint.dat", "format.dat",  "winstate.dat", "gui1.dat",
             "gui2.dat",      "style.dat",    "ntcheck.zfr", "wpcheck.zfr",  "visible.zfr",
             "quicksave.zfr", "setup.zfr",    "printer.zfr"};
         system_.locale = anyOf(locales);
+        system_.name = anyOf(systems);
+        system_.style = below(4) == 0 ? "Standard" : "";
         const std::string last = "Temp/temp" + std::to_string(below(12)) + ".tmp";
         if (below(2) == 0 && folder_.has(last)) folder_.put("quicksave.zfr", folder_.bytes(last));
-        if (below(2) == 0) folder_.put(anyOf(settings), rubbish());
+        for (unsigned left = below(4); left > 0; --left) folder_.put(anyOf(settings), rubbish());
         headless_.queueAnswer(below(2) == 0 ? BoxAnswer::german : BoxAnswer::english);
         program_->keys.run([this] { program_->start(); });
         for (int i = 0; i < 10; ++i) step();
     }
 
-    // Of bytes that lead further than others: those of small numbers, type words and lengths.
+    // Of what leads further than any bytes: singles, type words and lengths.
     std::string rubbish() {
-        static const std::string bytes("\0\0\0\x80\x3F\x40\xA0\x7F\xFF\x01\x02\x04\x08", 13);
+        static const std::vector<std::string> pieces = {
+            "00 00 80 3F",    "00 00 20 40", "00 00 A0 40", "00 00 80 BF", "00 00 C0 7F",
+            "CA F2 49 71",    "02 00 01 00", "02 00",       "04 00",       "05 00",
+            "08 00 01 00 31", "08 00 FF FF", "0E 00",       "00 00",       "FF"};
         std::string text;
-        for (unsigned left = below(30); left > 0; --left) text += anyOf(bytes);
+        for (unsigned left = below(8); left > 0; --left) text += fromHex(anyOf(pieces));
         return text;
     }
 

@@ -55,7 +55,7 @@ TEST_F(Windows, standAsTheyWereDesigned) {
     tell("page", desk);
     tell("letterhead", program_.kopf);
     tell("help", program_.help);
-    for (const std::uint32_t seed : {1, 2, 3, 4, 5}) {
+    for (const std::uint32_t seed : {1U, 2U, 3U, 4U, 5U}) {
         system_.seed = seed;
         program_.puzzle.onActivate();
         tell("puzzle", program_.puzzle);

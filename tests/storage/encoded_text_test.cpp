@@ -40,24 +40,6 @@ TEST(Windows1252, convertsLongTextsAsItDoesOneCharacter) {
     }
 }
 
-TEST(EncodedText, writesNothingWhereNothingIsNew) {
-    TextField field;
-    EncodedText encoded(field);
-    field.setText(u"12,50 ÷");
-    encoded.takeFromField();
-    int changes = 0;
-    field.onChange = [&] { ++changes; };
-    field.caretToEnd();
-    encoded.setBytes("12,50 \xF7");
-    encoded.writeToField();
-    EXPECT_EQ(changes, 0);
-    EXPECT_EQ(field.caret(), 0U);
-    encoded.setBytes("12,50");
-    encoded.writeToField();
-    EXPECT_EQ(changes, 1);
-    EXPECT_EQ(field.text(), u"12,50");
-}
-
 // Whatever happens to a field between two snapshots, its bytes are those of the whole text; and whatever
 // bytes are read, the field gets the whole text of them.
 TEST(EncodedText, followsItsFieldThroughAllChanges) {

@@ -112,7 +112,8 @@ TEST_F(FilesTest, emptyAFolderByPatternAndFollowNoLink) {
     files.createFolder("Temp/temp3.tmp");
     EXPECT_TRUE(troubleIn([&] { files.removeAll("Temp", "temp*.tmp"); }));  // the folder, which stays
     EXPECT_EQ(files.list("Temp", "*"), (std::vector<std::string>{"other.txt"}));
-    EXPECT_TRUE(folder.has("Temp/.temp.tmp") && folder.has("Temp/temp3.tmp"));
+    EXPECT_TRUE(folder.has("Temp/.temp.tmp") && folder.has("Temp/temp3.tmp") &&
+                !folder.has("Temp/temp2.tmp"));
 
     fs::create_directory_symlink(outside.path(), folder / "link");
     for (const std::string& other : {std::string("link"), std::string(".."), outside.path(),

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "platform/posix_files.h"
 #include "storage/settings_files.h"
 #include "tests/support/fresh_folder.h"
@@ -27,37 +29,30 @@ TEST_F(SettingsTest, singlesAreFourBytesAndZeroWithoutThem) {
     EXPECT_EQ(toHex(folder.bytes("format.dat")), "00 00 80 3F 55");
 }
 
-// Position in two tagged items, then the mode and the tick.
+// Left, top, mode and tick; what is damaged or absent is the default.
 TEST_F(SettingsTest, startOptionsAreFourTaggedItems) {
     using Position = StartOptions::Position;
-    const StartOptions stored{.position = Position{1500, -75}, .windowMode = 2, .minimised = true};
-    writeStartOptions(files, stored);
-    EXPECT_EQ(toHex(folder.bytes("winstate.dat")),
-              "04 00 00 80 BB 44 04 00 00 00 96 C2 02 00 02 00 02 00 01 00");
-    const StartOptions options = readStartOptions(files);
-    EXPECT_EQ(options.position, stored.position);
-    EXPECT_TRUE(options.windowMode == 2 && options.minimised);
-    folder.put("winstate.dat", fromHex("00 00 04 00 00 00 A0 40 02 00 07 00 00 00"));
-    EXPECT_EQ(readStartOptions(files).position, (Position{0, 5}));
-    EXPECT_EQ(readStartOptions(files).windowMode, 2);
+    const std::string whole = "04 00 00 80 BB 44 04 00 00 00 96 C2 02 00 02 00 02 00 01 00";
+    writeStartOptions(files, {.position = Position{1500, -75}, .windowMode = 2, .minimised = true});
+    EXPECT_EQ(toHex(folder.bytes("winstate.dat")), whole);
+    const std::optional<Position> none;
+    const std::tuple<std::string, std::optional<Position>, int, bool> rows[] = {
+        {whole, Position{1500, -75}, 2, true},
+        {whole.substr(0, 44), Position{1500, -75}, 0, false},
+        {"00 00 04 00 00 00 A0 40 02 00 07 00 00 00", Position{0, 5}, 2, false},
+        {"63 00" + whole.substr(5), none, 0, false},
+        {"04 00 CA F2 49 71 04 00 CA F2 49 F1 00 00", none, 0, false},  // 1E30 twips away
+        {"04 00 00 00 C0 7F 04 00 00 00 80 FF 00 00", none, 0, false},  // not a number, infinite
+        {"08 00 01 00 31 00 00", none, 0, false},
+        {"", none, 0, false}};
+    for (const auto& [bytes, position, mode, minimised] : rows) {
+        folder.put("winstate.dat", fromHex(bytes));
+        const StartOptions options = readStartOptions(files);
+        EXPECT_TRUE(options.position == position && options.minimised == minimised) << bytes;
+        EXPECT_EQ(options.windowMode, mode) << bytes;
+    }
     writeStartOptions(files, {.position = Position{0, 0}});
     EXPECT_TRUE(readStartOptions(files).position);
-}
-
-TEST_F(SettingsTest, startOptionsThatAreAbsentOrDamagedAreTheDefaults) {
-    const std::string whole = fromHex("04 00 00 80 BB 44 04 00 00 00 96 C2 02 00 02 00 02 00 01 00");
-    for (const std::string& damaged :
-         {std::string(), std::string("x"), fromHex("63 00") + whole.substr(2),
-          fromHex("04 00 CA F2 49 71 04 00 CA F2 49 F1 00 00"),  // 1E30 twips away
-          fromHex("04 00 00 00 C0 7F 04 00 00 00 80 FF 00 00"),  // not a number, infinite
-          fromHex("08 00 01 00 31 00 00")}) {
-        folder.put("winstate.dat", damaged);
-        const StartOptions options = readStartOptions(files);
-        EXPECT_FALSE(options.position || options.windowMode != 0 || options.minimised);
-    }
-    folder.put("winstate.dat", whole.substr(0, 15));
-    EXPECT_TRUE(readStartOptions(files).position);
-    EXPECT_EQ(readStartOptions(files).windowMode, 0);
 }
 
 TEST_F(SettingsTest, sizesAndTheTopPlaceAreIntegers) {

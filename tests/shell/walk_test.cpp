@@ -117,7 +117,10 @@ class Walk : HeadlessStage {
         system_.style = below(4) == 0 ? "Standard" : "";
         const std::string last = "Temp/temp" + std::to_string(below(12)) + ".tmp";
         if (below(2) == 0 && folder_.has(last)) folder_.put("quicksave.zfr", folder_.bytes(last));
-        for (unsigned left = below(4); left > 0; --left) folder_.put(anyOf(settings), rubbish());
+        for (unsigned left = below(4); left > 0; --left) {
+            const std::string& name = anyOf(settings);
+            folder_.put(name, rubbish());
+        }
         headless_.queueAnswer(below(2) == 0 ? BoxAnswer::german : BoxAnswer::english);
         program_->keys.run([this] { program_->start(); });
         for (int i = 0; i < 10; ++i) step();

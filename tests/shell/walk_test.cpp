@@ -112,6 +112,9 @@ class Walk : HeadlessStage {
             "language.dat",  "decpoint.dat", "format.dat",  "winstate.dat", "gui1.dat",
             "gui2.dat",      "style.dat",    "ntcheck.zfr", "wpcheck.zfr",  "visible.zfr",
             "quicksave.zfr", "setup.zfr",    "printer.zfr"};
+        for (const char* const name : {"ntcheck.zfr", "language.dat"}) {
+            if (below(4) > 0) folder_.put(name, fromHex("00 00 80 3F"));  // no first run, English
+        }
         system_.locale = anyOf(locales);
         system_.name = anyOf(systems);
         system_.style = below(4) == 0 ? "Standard" : "";
@@ -232,7 +235,6 @@ class Walk : HeadlessStage {
         Control& control = *anyOf(reachable);
         tell(u"[" + control.name + u"]");
         if (below(4) == 0) headless_.queueAnswer(BoxAnswer::yes);
-        if (control.draggable) return drop(window, keys, control);
         mousePress(window, keys, control);
         if (below(8) == 0) headless_.wait(5500);
         mouseRelease(keys, control);
@@ -242,12 +244,6 @@ class Walk : HeadlessStage {
             keys.run([=] { list->choose(row); });
         if (auto* combo = dynamic_cast<ComboBox*>(&control)) keys.run([=] { combo->choose(row); });
         mouseMove(keys, control);
-    }
-
-    void drop(const Window& window, KeyRoad& keys, Control& piece) {
-        const auto left = static_cast<int>(1200 + below(2) * 1000),
-                   top = static_cast<int>(300 + below(2) * 1000);
-        if (Control* const field = dropField(window, piece, left, top)) mouseDrop(keys, piece, *field);
     }
 
     const unsigned seed_;

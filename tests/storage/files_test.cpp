@@ -137,13 +137,6 @@ TEST_F(FilesTest, findAndListNormalFiles) {
     }
 }
 
-TEST_F(FilesTest, tellWhenAFileWasWritten) {
-    const std::chrono::system_clock::time_point moment{std::chrono::milliseconds(86400500)};
-    files.write("a", "x");
-    files.stamp("a", moment);
-    EXPECT_EQ(files.lastModified("a"), moment);
-}
-
 TEST_F(FilesTest, theProgramFolderIsHeldUnderAnyName) {
     const std::string moved = folder.path() + "-moved";
     files.createFolder("inner");

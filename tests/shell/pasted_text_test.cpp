@@ -79,7 +79,7 @@ TEST(PastedText, operatorsBetweenFiguresCount) {
 
 TEST(PastedText, whatIsNotCertainlyAFigureIsLeftOut) {
     constexpr TextView none =
-        u"12.03.2026 ¦ 12.03.26 ¦ 12.03. ¦ 2026-03-12 ¦ 2026-11-12 ¦ 12/03/2026 ¦ 12/11/2026 ¦ "
+        u"12.03.2026 ¦ 31.12.26 ¦ 12.03. ¦ 2026-03-12 ¦ 2026-11-12 ¦ 12/03/2026 ¦ 12/11/2026 ¦ "
         u"11/2026 ¦ 2025-2026 ¦ 12. März 2026 ¦ März 2026 ¦ 14:30 ¦ 14:30:15 ¦ 14.30 Uhr ¦ 1e3 ¦ 3x4 ¦ "
         u"3 x 4 ¦ 1.2.3 ¦ 192.168.1.10 ¦ 19 % ¦ 19% ¦ 007 ¦ 0711 / 123456 ¦ "
         u"DE89 3704 0044 0532 0130 00 ¦ Pos. 3 ¦ Nr.5 ¦ Version 5.0 ¦ H2O ¦ #5 ¦ = 15 ¦ 62,00 = ¦ "

@@ -102,6 +102,19 @@ TEST_F(StoredCalculationsTest, whatIsNoFileIsNoCalculation) {
     EXPECT_NE(folder_.bytes("d.sav"), "");
 }
 
+TEST_F(StoredCalculationsTest, hidesThePrintCopyWhileItAsks) {
+    store(u"a");
+    const TextField& copy = state().superdruck;
+    int hidden = 0;
+    headless_.onUnansweredQuestion = [&] { hidden += copy.foreColour == copy.backColour ? 1 : 0; };
+    for (const Control* button : {&page().laden, &page().killfile}) {
+        choose();
+        run(button->onClick);
+        EXPECT_EQ(copy.foreColour, Colour());
+    }
+    EXPECT_EQ(hidden, 2);
+}
+
 TEST_F(StoredCalculationsTest, aNameOfAnotherCharacterSetIsLoaded) {
     type(u"5+");
     store(u"a");

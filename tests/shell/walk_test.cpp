@@ -97,6 +97,10 @@ class Walk : HeadlessStage {
         if (seed_ % 5 == 1) s.formatMode = 2;
         applyFormatMode(s);
         program_->beginFresh();
+        if (seed_ % 4 == 3) {  // on the page, with a stored calculation
+            program_->keys.run(program_->pultform.page.edit.onClick);
+            type(u"a{ENTER}");
+        }
         for (int i = 0; i < 120; ++i) {
             step();
             headless_.settleActivation();

@@ -38,11 +38,9 @@ class SnapshotsTest : public testing::TestWithParam<unsigned> {
   protected:
     SnapshotsTest() { disk_.createFolder("Temp"); }
 
-    // The state of another step, as a calculation changes it; now and then as an editor of the print copy
-    // does.
+    // As a step of a calculation does; now and then as an editor of the print copy does.
     void change() {
-        const auto number = std::to_string(random_() % 100000);
-        const Text figure(number.begin(), number.end());
+        const Text figure = fromUtf8(std::to_string(random_() % 100000));
         state_.anzeige.append(u"\r\n" + figure + u" +   ");
         state_.superdruck.append(u"\r\n" + Text(60 - figure.size(), u' ') + figure + u" +");
         state_.zwischen.setText(figure);
@@ -112,8 +110,7 @@ TEST_P(SnapshotsTest, makeRoomOnANearlyFullDisk) {
     EXPECT_THROW(write(snapshots), FileFailure);
 }
 
-// A file that another program has taken is known to have been there, folded or not; what never had one is
-// not.
+// A file that another program has taken is known to have been there, folded or not.
 TEST_P(SnapshotsTest, knowWhatIsLost) {
     Snapshots snapshots(disk_, {.files = 4, .bytes = 1 << 20});
     for (; counter_ < 8; ++counter_) write(snapshots);

@@ -19,38 +19,37 @@ std::vector<std::size_t> startsOf(TextView text) {
     return starts;
 }
 
-TEST(TextField, tellsItsFollowersWhatHasStayed) {
-    std::mt19937 random(11);
-    TextField field;
-    field.multiLine = field.keepsChanges = true;
-    TextFollower follower(field);
+class TextFieldTest : public testing::Test {
+  protected:
+    TextFieldTest() {
+        field_.multiLine = field_.keepsChanges = true;
+        field_.setText(u"\r\none\r\ntwo");
+    }
+
+    std::size_t somewhere() { return random_() % (field_.text().size() + 1); }
+
+    void typeSomewhere() {
+        field_.select(somewhere(), random_() % 4 == 0 ? random_() % 30 : 0);
+        const unsigned kind = static_cast<unsigned>(random_() % 8);
+        if (kind == 0) return field_.handleKey(keyCode::del);
+        field_.handleCharacter(kind == 1 ? u'\b' : kind == 2 ? u'\r' : u'a');
+    }
+
+    std::mt19937 random_{11};
+    TextField field_;
+};
+
+TEST_F(TextFieldTest, tellsItsFollowersWhatHasStayed) {
+    TextFollower follower(field_);
     Text before;
     std::vector<std::size_t> starts{0};
-    const auto somewhere = [&] { return random() % (field.text().size() + 1); };
     for (int turn = 0; turn < 20000; ++turn) {
-        field.select(somewhere(), random() % 4 == 0 ? random() % 30 : 0);
-        switch (random() % 10) {
-            case 0:
-                field.append(u"\r\n12,50 +");
-                break;
-            case 1:
-                field.setTextFrom(somewhere(), u"x\r\n");
-                break;
-            case 2:
-                field.handleKey(keyCode::del);
-                break;
-            case 3:
-                field.handleCharacter(u'\b');
-                break;
-            case 4:
-                field.undo();
-                break;
-            default:
-                field.handleCharacter(random() % 5 == 0 ? u'\r' : u'a');
-                break;
-        }
-        if (random() % 3 == 0) continue;
-        const Text& now = field.text();
+        typeSomewhere();
+        if (random_() % 8 == 0) field_.append(u"\r\n12,50 +");
+        if (random_() % 8 == 0) field_.setTextFrom(somewhere(), u"x\r\n");
+        if (random_() % 8 == 0) field_.undo();
+        if (random_() % 3 == 0) continue;
+        const Text& now = field_.text();
         const TextFollower::Ends ends = follower.takeUnchanged();
         ASSERT_LE(ends.prefix + ends.suffix, std::min(before.size(), now.size()));
         ASSERT_EQ(now.substr(0, ends.prefix), before.substr(0, ends.prefix));
@@ -61,22 +60,11 @@ TEST(TextField, tellsItsFollowersWhatHasStayed) {
     }
 }
 
-TEST(TextField, takesBackEveryChangeOfTheUser) {
-    std::mt19937 random(12);
-    TextField field;
-    field.multiLine = field.keepsChanges = true;
-    field.setText(u"\r\none\r\ntwo");
-    for (int turn = 0; turn < 500; ++turn) {
-        field.select(random() % (field.text().size() + 1), random() % 3 == 0 ? random() % 5 : 0);
-        if (random() % 4 == 0) {
-            field.handleKey(keyCode::del);
-        } else {
-            field.handleCharacter(random() % 4 == 0 ? u'\b' : random() % 4 == 0 ? u'\r' : u'a');
-        }
+TEST_F(TextFieldTest, takesBackEveryChangeOfTheUser) {
+    for (int turn = 0; turn < 500; ++turn) typeSomewhere();
+    while (field_.undo()) {
     }
-    while (field.undo()) {
-    }
-    EXPECT_EQ(field.text(), u"\r\none\r\ntwo");
+    EXPECT_EQ(field_.text(), u"\r\none\r\ntwo");
 }
 
 TEST(ListBox, movesItsSelectionByKeysAndLetters) {
@@ -87,28 +75,21 @@ TEST(ListBox, movesItsSelectionByKeysAndLetters) {
     EXPECT_EQ(list.row(), 0);
     list.setRows({u"Abend", u"Morgen", u"Mittag", u"Österreich"});
     list.pageRows = 2;
-    const auto rowAfter = [&](int code) {
+    for (const auto& [code, row] :
+         {std::pair(keyCode::down, 1), std::pair(keyCode::up, 1), std::pair(keyCode::pageDown, 3),
+          std::pair(keyCode::pageDown, 4), std::pair(keyCode::home, 1), std::pair(keyCode::end, 4),
+          std::pair(keyCode::pageUp, 2)}) {
         list.handleKey(code);
-        return list.row();
-    };
-    EXPECT_EQ(rowAfter(keyCode::down), 1);
-    EXPECT_EQ(rowAfter(keyCode::up), 1);
-    EXPECT_EQ(clicks, 1);
-    EXPECT_EQ(rowAfter(keyCode::pageDown), 3);
-    EXPECT_EQ(rowAfter(keyCode::pageDown), 4);
-    EXPECT_EQ(rowAfter(keyCode::home), 1);
-    EXPECT_EQ(rowAfter(keyCode::end), 4);
-    EXPECT_EQ(rowAfter(keyCode::pageUp), 2);
-    list.handleCharacter(u'm');
-    EXPECT_EQ(list.row(), 3);
-    list.handleCharacter(u'M');
-    EXPECT_EQ(list.row(), 2);
-    list.handleCharacter(u'ö');
+        EXPECT_EQ(list.row(), row) << code;
+    }
+    EXPECT_EQ(clicks, 6);
+    for (const auto& [letter, row] :
+         {std::pair(u'm', 3), std::pair(u'M', 2), std::pair(u'ö', 4), std::pair(u'x', 4)}) {
+        list.handleCharacter(letter);
+        EXPECT_EQ(list.row(), row) << static_cast<int>(letter);
+    }
     EXPECT_EQ(list.selected(), u"Österreich");
-    list.handleCharacter(u'x');
-    EXPECT_EQ(list.row(), 4);
-    EXPECT_FALSE(list.select(5));
-    EXPECT_FALSE(list.select(-1));
+    EXPECT_FALSE(list.select(5) || list.select(-1));
     list.setRows({u"one"});
     EXPECT_EQ(list.row(), 0);
     EXPECT_EQ(list.selected(), u"");

@@ -1,16 +1,10 @@
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
 #include <functional>
 #include <optional>
 
-#include "platform/headless/faulty_files.h"
 #include "platform/posix_files.h"
 #include "tests/support/fresh_folder.h"
 
@@ -39,8 +33,7 @@ TEST_F(FilesTest, writeFromTheStartAndNeverTruncate) {
     EXPECT_EQ(folder.bytes("a"), "ab345678");
     files.replace("a", "x");
     EXPECT_EQ(folder.bytes("a"), "x");
-    const std::vector<std::string_view> pieces = {"one ", "",  "two ", "3", "4", "5",
-                                                  "6",    "7", "8",    "9", "",  "0"};
+    const std::vector<std::string_view> pieces = {"one ", "", "two ", "3", "4", "5", "67890"};
     files.write("a", pieces);
     EXPECT_EQ(folder.bytes("a"), "one two 34567890");
     files.write((folder / "b").string(), "absolute");
@@ -81,26 +74,6 @@ TEST_F(FilesTest, tellWhatIsWrong) {
     EXPECT_EQ(files.readOrCreate("a").view(), "");
 }
 
-// The limit lets the first bytes through, as a disk does that fills up in the middle of a file.
-TEST_F(FilesTest, aFileThatFindsNoMoreRoomIsAFailure) {
-    rlimit before;
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto oldHandler = ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{1000, before.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    const std::string piece(700, 'x');
-    const std::vector<std::string_view> pieces = {piece, piece, piece};
-    EXPECT_EQ(troubleIn([&] { files.write("a", pieces); }), FileTrouble::noSpace);
-    folder.put("quick", "the former content");
-    EXPECT_EQ(troubleIn([&] { files.write("quick", pieces); }), FileTrouble::noSpace);
-    EXPECT_EQ(troubleIn([&] { files.exchange("quick", pieces); }), FileTrouble::noSpace);
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    ::signal(SIGXFSZ, oldHandler);
-    EXPECT_EQ(folder.bytes("a"), std::string(1000, 'x'));
-    EXPECT_EQ(folder.bytes("quick"), "the former content");
-    EXPECT_FALSE(folder.has(".quick.new"));
-}
-
 TEST_F(FilesTest, anExchangeKeepsTheRestTheRightsAndTheLink) {
     namespace fs = std::filesystem;
     const std::vector<std::string_view> pieces = {"one", "", "two"};
@@ -126,26 +99,6 @@ TEST_F(FilesTest, anExchangeKeepsTheRestTheRightsAndTheLink) {
     EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
 }
 
-// A kill at any moment leaves one of the two contents, never a mixture.
-TEST_F(FilesTest, anExchangeIsWholeOrNotAtAll) {
-    const std::string one(300000, '1'), two(300000, '2');
-    folder.put("a", one);
-    for (int round = 0; round < 20; ++round) {
-        const pid_t child = ::fork();
-        if (child == 0) {
-            for (;;) {
-                files.exchange("a", std::array<std::string_view, 1>{two});
-                files.exchange("a", std::array<std::string_view, 1>{one});
-            }
-        }
-        ::usleep(static_cast<useconds_t>(1000 + 700 * round));
-        ::kill(child, SIGKILL);
-        ::waitpid(child, nullptr, 0);
-        const std::string found = folder.bytes("a");
-        EXPECT_TRUE(found == one || found == two) << found.size();
-    }
-}
-
 TEST_F(FilesTest, emptyAFolderByPatternAndFollowNoLink) {
     namespace fs = std::filesystem;
     const FreshFolder outside;
@@ -158,13 +111,9 @@ TEST_F(FilesTest, emptyAFolderByPatternAndFollowNoLink) {
     fs::create_directory_symlink(outside.path(), folder / "Temp/temp2.tmp");
     files.createFolder("Temp/temp3.tmp");
     EXPECT_TRUE(troubleIn([&] { files.removeAll("Temp", "temp*.tmp"); }));  // the folder, which stays
-    EXPECT_FALSE(fs::exists(fs::symlink_status(folder / "Temp/temp1.tmp")));
-    EXPECT_FALSE(fs::exists(fs::symlink_status(folder / "Temp/temp2.tmp")));
-    EXPECT_FALSE(folder.has("Temp/temp0.tmp"));
-    EXPECT_FALSE(folder.has("Temp/temp12.tmp"));
-    EXPECT_TRUE(folder.has("Temp/temp3.tmp"));
-    EXPECT_TRUE(folder.has("Temp/other.txt"));
-    EXPECT_TRUE(folder.has("Temp/.temp.tmp"));
+    EXPECT_EQ(files.list("Temp", "*"), (std::vector<std::string>{"other.txt"}));
+    EXPECT_TRUE(folder.has("Temp/.temp.tmp") && folder.has("Temp/temp3.tmp") &&
+                !folder.has("Temp/temp2.tmp"));
 
     fs::create_directory_symlink(outside.path(), folder / "link");
     for (const std::string& other : {std::string("link"), std::string(".."), outside.path(),
@@ -188,13 +137,6 @@ TEST_F(FilesTest, findAndListNormalFiles) {
     }
 }
 
-TEST_F(FilesTest, tellWhenAFileWasWritten) {
-    folder.put("a", "x");
-    const timespec times[2] = {{86400, 0}, {86400, 500000000}};
-    ASSERT_EQ(::utimensat(AT_FDCWD, (folder / "a").c_str(), times, 0), 0);
-    EXPECT_EQ(files.lastModified("a").time_since_epoch(), std::chrono::milliseconds(86400500));
-}
-
 TEST_F(FilesTest, theProgramFolderIsHeldUnderAnyName) {
     const std::string moved = folder.path() + "-moved";
     files.createFolder("inner");
@@ -203,25 +145,6 @@ TEST_F(FilesTest, theProgramFolderIsHeldUnderAnyName) {
     inner.write("a", "x");
     EXPECT_TRUE(std::filesystem::exists(moved + "/a"));
     std::filesystem::remove_all(moved);
-}
-
-TEST_F(FilesTest, faultsAreThoseOfTheDisk) {
-    FaultyFiles faulty(files);
-    faulty.write("a", "x");
-    const auto changes = [&] {
-        return std::vector<std::function<void()>>{
-            [&] { faulty.write("a", "y"); }, [&] { faulty.replace("a", "y"); },
-            [&] { faulty.readOrCreate("b"); }, [&] { faulty.createFolder("Temp"); }};
-    };
-    faulty.diskFull(true);
-    for (const auto& change : changes()) EXPECT_EQ(troubleIn(change), FileTrouble::noSpace);
-    faulty.writable(false);
-    for (const auto& change : changes()) EXPECT_EQ(troubleIn(change), FileTrouble::access);
-    EXPECT_EQ(troubleIn([&] { faulty.remove("a"); }), FileTrouble::access);
-    EXPECT_EQ(faulty.readOrCreate("a").view(), "x");
-    faulty.writable(true);
-    EXPECT_EQ(troubleIn([&] { faulty.removeAll(".", "a"); }), std::nullopt);
-    EXPECT_EQ(files.list(".", "*"), std::vector<std::string>{});
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "platform/posix_files.h"
 #include "storage/settings_files.h"
 #include "tests/support/fresh_folder.h"
@@ -16,73 +18,52 @@ class SettingsTest : public testing::Test {
 TEST_F(SettingsTest, singlesAreFourBytesAndZeroWithoutThem) {
     writeSingle(files, settingsFile::textColours, 5);
     EXPECT_EQ(toHex(folder.bytes("gui1.dat")), "00 00 A0 40");
-    writeSingle(files, settingsFile::language, 1);
-    EXPECT_EQ(toHex(folder.bytes("language.dat")), "00 00 80 3F");
-    EXPECT_EQ(readSingle(files, settingsFile::language), 1);
-
+    EXPECT_EQ(readSingle(files, settingsFile::textColours), 5);
     EXPECT_EQ(readSingle(files, settingsFile::format, 1), 1);
     EXPECT_TRUE(folder.has("format.dat"));
-    EXPECT_EQ(folder.bytes("format.dat"), "");
-    folder.put("format.dat", "\x01\x02\x03");
-    EXPECT_EQ(readSingle(files, settingsFile::format, 1), 1);
-    folder.put("format.dat", fromHex("00 00 00 00"));
-    EXPECT_EQ(readSingle(files, settingsFile::format, 1), 1);
-    folder.put("format.dat", fromHex("00 00 00 40 55"));
-    EXPECT_EQ(readSingle(files, settingsFile::format, 1), 2);
+    for (const auto& [bytes, value] : {std::pair("01 02 03", 1), {"00 00 00 00", 1}, {"00 00 00 40 55", 2}}) {
+        folder.put("format.dat", fromHex(bytes));
+        EXPECT_EQ(readSingle(files, settingsFile::format, 1), value) << bytes;
+    }
     writeSingle(files, settingsFile::format, 1);
     EXPECT_EQ(toHex(folder.bytes("format.dat")), "00 00 80 3F 55");
 }
 
+// Left, top, mode and tick; what is damaged or absent is the default.
 TEST_F(SettingsTest, startOptionsAreFourTaggedItems) {
-    writeStartOptions(files,
-                      {.position = StartOptions::Position{1500, -75}, .windowMode = 2, .minimised = true});
-    EXPECT_EQ(toHex(folder.bytes("winstate.dat")),
-              "04 00 00 80 BB 44 04 00 00 00 96 C2 02 00 02 00 02 00 01 00");
-    const StartOptions options = readStartOptions(files);
-    EXPECT_EQ(options.position, (StartOptions::Position{1500, -75}));
-    EXPECT_EQ(options.windowMode, 2);
-    EXPECT_TRUE(options.minimised);
-
-    writeStartOptions(files, {.position = StartOptions::Position{0, 0}});
-    EXPECT_TRUE(readStartOptions(files).position);
-    folder.put("winstate.dat", fromHex("00 00 04 00 00 00 A0 40 02 00 07 00 00 00"));
-    EXPECT_EQ(readStartOptions(files).position, (StartOptions::Position{0, 5}));
-    EXPECT_EQ(readStartOptions(files).windowMode, 2);
-}
-
-TEST_F(SettingsTest, startOptionsThatAreAbsentOrDamagedAreTheDefaults) {
-    const std::string whole = fromHex("04 00 00 80 BB 44 04 00 00 00 96 C2 02 00 02 00 02 00 01 00");
-    for (const std::string& damaged :
-         {std::string(), std::string("x"), fromHex("63 00") + whole.substr(2),
-          fromHex("04 00 CA F2 49 71 04 00 CA F2 49 F1 00 00"),  // 1E30 twips away
-          fromHex("04 00 00 00 C0 7F 04 00 00 00 80 FF 00 00"),  // not a number, infinite
-          fromHex("08 00 01 00 31 00 00")}) {
-        folder.put("winstate.dat", damaged);
+    using Position = StartOptions::Position;
+    const std::string whole = "04 00 00 80 BB 44 04 00 00 00 96 C2 02 00 02 00 02 00 01 00";
+    writeStartOptions(files, {.position = Position{1500, -75}, .windowMode = 2, .minimised = true});
+    EXPECT_EQ(toHex(folder.bytes("winstate.dat")), whole);
+    const std::optional<Position> none;
+    const std::tuple<std::string, std::optional<Position>, int, bool> rows[] = {
+        {whole, Position{1500, -75}, 2, true},
+        {whole.substr(0, 44), Position{1500, -75}, 0, false},
+        {"00 00 04 00 00 00 A0 40 02 00 07 00 00 00", Position{0, 5}, 2, false},
+        {"63 00" + whole.substr(5), none, 0, false},
+        {"04 00 CA F2 49 71 04 00 CA F2 49 F1 00 00", none, 0, false},  // 1E30 twips away
+        {"04 00 00 00 C0 7F 04 00 00 00 80 FF 00 00", none, 0, false},  // not a number, infinite
+        {"08 00 01 00 31 00 00", none, 0, false},
+        {"", none, 0, false}};
+    for (const auto& [bytes, position, mode, minimised] : rows) {
+        folder.put("winstate.dat", fromHex(bytes));
         const StartOptions options = readStartOptions(files);
-        EXPECT_FALSE(options.position);
-        EXPECT_EQ(options.windowMode, 0);
-        EXPECT_FALSE(options.minimised);
+        EXPECT_TRUE(options.position == position && options.minimised == minimised) << bytes;
+        EXPECT_EQ(options.windowMode, mode) << bytes;
     }
-    folder.put("winstate.dat", whole.substr(0, 15));
+    writeStartOptions(files, {.position = Position{0, 0}});
     EXPECT_TRUE(readStartOptions(files).position);
-    EXPECT_EQ(readStartOptions(files).windowMode, 0);
 }
 
-TEST_F(SettingsTest, storedSizesAreTwelveBytes) {
+TEST_F(SettingsTest, sizesAndTheTopPlaceAreIntegers) {
+    EXPECT_EQ(readStoredSizes(files).width, 0);
     writeStoredSizes(files, {.active = 0, .width = 8205, .height = 8085});
     EXPECT_EQ(toHex(folder.bytes("style.dat")), "00 00 00 00 02 00 0D 20 02 00 95 1F");
     EXPECT_EQ(readStoredSizes(files).height, 8085);
-    folder.put("style.dat", "");
-    EXPECT_EQ(readStoredSizes(files).width, 0);
-}
-
-TEST_F(SettingsTest, alwaysOnTopIsKeptAsAnInteger) {
     EXPECT_FALSE(readAlwaysOnTop(files));
     writeAlwaysOnTop(files, true);
     EXPECT_EQ(toHex(folder.bytes("visible.zfr")), "02 00 01 00");
     EXPECT_TRUE(readAlwaysOnTop(files));
-    writeAlwaysOnTop(files, false);
-    EXPECT_FALSE(readAlwaysOnTop(files));
 }
 
 TEST_F(SettingsTest, thePrinterIsALineOfText) {
@@ -91,14 +72,14 @@ TEST_F(SettingsTest, thePrinterIsALineOfText) {
     writePrinterName(files, u"A much longer name");
     writePrinterName(files, u"Büro 2");
     EXPECT_EQ(folder.bytes("printer.zfr"), "B\xFCro 2\r\n");
-    EXPECT_EQ(readPrinterName(files), u"Büro 2");
-
-    writePrinterName(files, u"Laser, 2nd floor");
-    EXPECT_EQ(readPrinterName(files), u"Laser");
-    folder.put("printer.zfr", "  \"Laser, 2nd floor\"\r\n");
-    EXPECT_EQ(readPrinterName(files), u"Laser, 2nd floor");
-    folder.put("printer.zfr", "");
-    EXPECT_EQ(readPrinterName(files), std::nullopt);
+    using Name = std::optional<Text>;
+    for (const auto& [bytes, name] : {std::pair("B\xFCro 2\r\n", Name(u"Büro 2")),
+                                      {"Laser, 2nd floor\r\n", u"Laser"},
+                                      {"  \"Laser, 2nd floor\"\r\n", u"Laser, 2nd floor"},
+                                      {"", std::nullopt}}) {
+        folder.put("printer.zfr", bytes);
+        EXPECT_EQ(readPrinterName(files), name) << bytes;
+    }
 }
 
 }  // namespace

@@ -5,7 +5,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iomanip>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -51,14 +53,12 @@ inline std::string fromHex(const std::string& text) {
     return bytes;
 }
 inline std::string toHex(std::string_view bytes) {
-    std::string text;
+    std::ostringstream text;
+    text << std::hex << std::uppercase << std::setfill('0');
     for (const char byte : bytes) {
-        constexpr const char* digits = "0123456789ABCDEF";
-        if (!text.empty()) text += ' ';
-        text += digits[static_cast<unsigned char>(byte) / 16];
-        text += digits[static_cast<unsigned char>(byte) % 16];
+        text << (text.tellp() > 0 ? " " : "") << std::setw(2) << int{static_cast<unsigned char>(byte)};
     }
-    return text;
+    return text.str();
 }
 
 }  // namespace zifferon

@@ -14,7 +14,8 @@
 
 namespace zifferon {
 
-class HeadlessTest : public testing::Test {
+// What a program without a window stands on.
+class HeadlessStage {
   protected:
     static void type(Program& program, TextView characters) {
         for (const char16_t character : characters) program.keys.stroke(keyOfCharacter(character));
@@ -29,6 +30,8 @@ class HeadlessTest : public testing::Test {
     FaultyFiles files_{disk_};
     Machine machine_ = headless_.with(files_, system_);
 };
+
+class HeadlessTest : public testing::Test, protected HeadlessStage {};
 
 // The same with a calculator that has just begun.
 class FreshProgramTest : public HeadlessTest {

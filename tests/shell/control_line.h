@@ -1,0 +1,37 @@
+// All that is seen of a control, as one line.
+#pragma once
+
+#include <iomanip>
+#include <sstream>
+#include <string>
+
+#include "platform/control.h"
+
+namespace zifferon {
+
+inline void print(std::ostream& out, Colour colour) {
+    out << ' ' << std::hex << std::setfill('0');
+    for (const int part : {colour.red, colour.green, colour.blue}) out << std::setw(2) << part;
+    out << std::dec;
+}
+
+inline std::string lineOf(const Control& control) {
+    std::ostringstream line;
+    const Place& place = control.place;
+    line << toUtf8(control.name) << ' ' << place.left << ' ' << place.top << ' ' << place.width << ' '
+         << place.height;
+    print(line, control.foreColour);
+    print(line, control.backColour);
+    line << ' ' << control.font.points << (control.font.bold ? " bold" : "")
+         << (control.font.family == u"Arial" ? "" : " typewriter") << (control.visible ? "" : " hidden")
+         << (control.enabled ? "" : " disabled") << (control.flat ? " flat" : "")
+         << (control.takesFocus ? " focus" : "");
+    if (control.alignment != Alignment::left) {
+        line << (control.alignment == Alignment::right ? " right" : " centre");
+    }
+    if (control.frame != nullptr) line << " in " << toUtf8(control.frame->name);
+    if (!control.picture.empty()) line << " picture " << toUtf8(control.picture);
+    return line.str();
+}
+
+}  // namespace zifferon

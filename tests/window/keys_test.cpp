@@ -8,8 +8,6 @@
 
 namespace zifferon::test {
 
-namespace {
-
 using namespace keys;
 
 TEST_F(WindowTest, KeypadWorksWithEveryLayout) {
@@ -151,7 +149,5 @@ TEST_F(WindowTest, LosingTheKeyboardLetsGoOfHeldKeys) {
     hands.stroke({digit1});
     EXPECT_BECOMES(releases, 2);
 }
-
-}  // namespace
 
 }  // namespace zifferon::test

@@ -6,8 +6,6 @@
 
 namespace zifferon::test {
 
-namespace {
-
 TEST_F(WindowTest, MousePlacesTheCaretAndSelects) {
     const TextField& field = state().eingabe;
     const QSize size = pixels(field.place).size();
@@ -96,7 +94,6 @@ TEST_F(WindowTest, TheTapeFollowsItsEndUntilPageUpMovesIt) {
 }
 
 TEST_F(WindowTest, TheRightButtonOpensAMenu) {
-    const auto menuIsOpen = [] { return QApplication::activePopupWidget() != nullptr; };
     hands.stroke({keys::keypad1, keys::keypadAdd, keys::keypad2, keys::keypad3});
     ASSERT_SOON(entry() == "23");
     state().eingabe.select(1, 1);
@@ -119,7 +116,5 @@ TEST_F(WindowTest, TheRightButtonOpensAMenu) {
     hands.stroke({keys::enter, keys::keypad3});
     EXPECT_BECOMES(entry(), "35");
 }
-
-}  // namespace
 
 }  // namespace zifferon::test

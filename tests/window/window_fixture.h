@@ -55,6 +55,7 @@ class WindowTest : public ::testing::Test {
     std::string entry() { return toUtf8(state().eingabe.text()); }
     std::string tape() { return toUtf8(state().anzeige.text()); }
     const Control* focus() { return program.pultform.focus(); }
+    static bool menuIsOpen() { return QApplication::activePopupWidget() != nullptr; }
 
     template <class Widget = QWidget>
     const Widget& widget(const char* name) {

@@ -23,7 +23,19 @@ class BoxesTest : public WindowTest {
     }
 };
 
-TEST_F(BoxesTest, AnswersComeFromTheKeyboard) {
+TEST_F(BoxesTest, AnswersComeFromTheKeyboardAndWhatWasDoneIsSeenBehind) {
+    answer({BoxIcon::none, BoxButtons::yesNo, u"Titel", u"<b>a</b>   ", Language::english},
+           [&](QWidget& shown) {
+               EXPECT_TRUE(std::ranges::any_of(shown.findChildren<QLabel*>(), [](const QLabel* label) {
+                   return label->text() == u"<b>a</b>   " && label->textFormat() == Qt::PlainText;
+               }));
+               QStringList buttons;
+               for (const QPushButton* button : shown.findChildren<QPushButton*>()) buttons += button->text();
+               EXPECT_EQ(buttons.join(' '), QStringLiteral("&Yes &No"));
+               EXPECT_EQ(widget<QLineEdit>("zwischen").text(), QStringLiteral("before the box"));
+               hands.stroke({keys::enter});
+           });
+
     Box box{BoxIcon::question, BoxButtons::yesNo, u"Zifferon PRO 5.0", u"Frage?"};
     EXPECT_EQ(answer(box, pressing(keys::enter)), BoxAnswer::yes);
     const auto onlyByItsButtons = [this](QWidget& shown) {
@@ -42,18 +54,6 @@ TEST_F(BoxesTest, AnswersComeFromTheKeyboard) {
     EXPECT_EQ(answer(box, [](QWidget& shown) { shown.close(); }), BoxAnswer::cancel);
     box.buttons = BoxButtons::ok;
     EXPECT_EQ(answer(box, pressing(keys::escape)), BoxAnswer::ok);
-
-    answer({BoxIcon::none, BoxButtons::yesNo, u"Titel", u"<b>a</b>   ", Language::english},
-           [&](QWidget& shown) {
-               EXPECT_TRUE(std::ranges::any_of(shown.findChildren<QLabel*>(), [](const QLabel* label) {
-                   return label->text() == u"<b>a</b>   " && label->textFormat() == Qt::PlainText;
-               }));
-               QStringList buttons;
-               for (const QPushButton* button : shown.findChildren<QPushButton*>()) buttons += button->text();
-               EXPECT_EQ(buttons.join(' '), QStringLiteral("&Yes &No"));
-               EXPECT_EQ(widget<QLineEdit>("zwischen").text(), QStringLiteral("before the box"));
-               hands.stroke({keys::enter});
-           });
 }
 
 TEST_F(BoxesTest, KeyThatClosesAModalWindowDoesNotActBehindIt) {

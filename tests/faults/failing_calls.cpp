@@ -1,12 +1,10 @@
 #include "tests/faults/failing_calls.h"
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
 
 #include <cerrno>
-#include <cstdarg>
 
 namespace zifferon {
 
@@ -62,26 +60,11 @@ ZIFFERON_WRAP(int, posix_fallocate, errno, (int file, off_t at, off_t size), (fi
 ZIFFERON_WRAP(int, fstat, -1, (int file, struct stat* status), (file, status))
 ZIFFERON_WRAP(DIR*, fdopendir, nullptr, (int folder), (folder))
 
-int __real_openat(int folder, const char* name, int flags, ...);
-int __wrap_openat(int folder, const char* name, int flags, ...);
-int __wrap_openat(int folder, const char* name, int flags, ...) {
-    if (failsOtherwise("openat")) return -1;
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
-    va_end(rest);
-    return __real_openat(folder, name, flags, mode);
-}
-
+// The mode is handed on whether it was given or not.
+ZIFFERON_WRAP(int, openat, -1, (int folder, const char* name, int flags, mode_t mode),
+              (folder, name, flags, mode))
 // What fails to close is closed all the same.
-int __real_close(int file);
-int __wrap_close(int file);
-int __wrap_close(int file) {
-    const bool failing = failsOtherwise("close");
-    const int error = errno;
-    const int result = __real_close(file);
-    return failing ? (errno = error, -1) : result;
-}
+ZIFFERON_WRAP(int, close, (__real_close(file), errno = zifferon::errorNumber, -1), (int file), (file))
 
 ssize_t __real_writev(int file, const iovec* pieces, int count);
 ssize_t __wrap_writev(int file, const iovec* pieces, int count);

@@ -5,6 +5,7 @@
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <filesystem>
@@ -14,54 +15,23 @@
 
 #include "programs/script/script_runner.h"
 #include "shell/required_files.h"
-#include "storage/calculation_record.h"
 #include "tests/faults/failing_calls.h"
 #include "tests/support/fresh_folder.h"
+#include "tests/support/record_bytes.h"
 
 namespace zifferon {
 namespace {
 
-constexpr const char* work = R"(machine printer "Zett A"
-start
-wait 3000
-type 12,50+
-type 3
-press ENTER
-click Save
-press C
-press C
-type 7*
-type 6
-press ENTER
-press RIGHT
-press RIGHT
-type 1-
-click edit
-type Miete Mai
-click Speichern
-press F5
-type Zwei
-click Speichern
-choose Files "Miete Mai.sav"
-press SPACE
-answer yes
-click laden
-choose Files "Zwei.sav"
-answer yes
-click killfile
-click optbtn
-click standardprint
-click optbtn
-click cmdkopf
-click kopf.muster
-click kopf.kopfok
-click editordruck
-click leave
-answer yes
-click load
-type 2+
-answer yes
-press F12
+constexpr const char* work = R"(
+machine printer "Zett A"; start; wait 3000
+type 12,50+; type 3; press ENTER; click Save; press C; press C
+type 7*; type 6; press ENTER; press RIGHT; press RIGHT; type 1-
+click edit; type Miete Mai; click Speichern; press F5; type Zwei; click Speichern
+choose Files "Miete Mai.sav"; press SPACE; answer yes; click laden
+choose Files "Zwei.sav"; answer yes; click killfile
+click optbtn; click standardprint; click optbtn
+click cmdkopf; click kopf.muster; click kopf.kopfok; click editordruck
+click leave; answer yes; click load; type 2+; answer yes; press F12
 )";
 
 // The calculation as its record's bytes, and all files.
@@ -70,13 +40,17 @@ struct Moment {
     std::map<std::string, std::string> files;
 };
 
-std::string recordBytes(CalculatorState& state) {
-    CalculationRecord record(state);
-    gatherRecord(record);
-    const EncodedRecord encoded(record);
-    std::string bytes;
-    for (const std::string_view piece : encoded.pieces()) bytes += piece;
-    return bytes;
+// What is told when the script has run, with each of its lines and the call that has failed so far.
+std::string run(const std::string& lines, const std::function<void(std::string_view, Program&)>& behindLine) {
+    std::ostringstream told;
+    std::istringstream script(lines);
+    ScriptRunner runner(told, told);
+    runner.onLine = [&](std::string_view line, Program& program) {
+        told << line << "  " << failedCall() << '\n';
+        behindLine(line, program);
+    };
+    EXPECT_NE(runner.run(script), 2);
+    return told.str();
 }
 
 // What a fault may leave of a line's effect: nothing, or all. A file that was to be created may be empty.
@@ -114,56 +88,37 @@ class Faults : public testing::Test {
         return moment;
     }
 
-    // The moments behind each line, and behind the end.
-    std::vector<Moment> workWithoutFaults() {
-        std::vector<Moment> moments;
-        runWork([&](Program& program) { moments.push_back(momentOf(recordBytes(program.pultform.state))); });
-        moments.push_back(momentOf(moments.back().calculation));
-        return moments;
-    }
-
-    // Whether the work came to the fault.
-    bool workWithFault(int n, int error, const std::vector<Moment>& moments) {
-        std::size_t line = 0;
-        bool looked = false;
-        const auto look = [&](const std::string& calculation) {
-            if (failedCall().empty() || looked) return;
-            looked = true;
-            if (line > 0) expectOneOf(momentOf(calculation), moments[line - 1], moments[line]);
-        };
-        armFault(n, error);
-        runWork([&](Program& program) {
-            look(recordBytes(program.pultform.state));
-            ++line;
-        });
-        if (line > 0) look(moments[line - 1].calculation);  // where it has ended the process
-        return !failedCall().empty();
-    }
-
-    std::string told_;
-
-  private:
-    void runWork(const std::function<void(Program&)>& look) {
+    // Looks at the calculation behind each line of the work, by the line's number, and behind the end.
+    void runWork(const std::function<void(std::size_t, const std::string&)>& look) {
         layOut();
-        std::ostringstream told;
-        std::istringstream script(work);
-        ScriptRunner runner(told, told);
-        runner.onLine = [&](std::string_view line, Program& program) {
-            told << line << "  " << failedCall() << '\n';
-            look(program);
-        };
-        EXPECT_NE(runner.run(script), 2);
-        told_ = told.str();
+        std::size_t line = 0;
+        std::string calculation;
+        std::string lines = work;
+        std::ranges::replace(lines, ';', '\n');
+        told_ = run(lines, [&](std::string_view, Program& program) {
+            calculation = recordBytes(program.pultform.state);
+            look(line++, calculation);
+        });
+        look(line, calculation);
     }
 
     FreshFolder folder_;
+    std::string told_;
 };
 
 TEST_F(Faults, leaveTheCalculationAndWholeFiles) {
     armFault(0, EIO);
-    const std::vector<Moment> moments = workWithoutFaults();
+    std::vector<Moment> moments;
+    runWork([&](std::size_t, const std::string& calculation) { moments.push_back(momentOf(calculation)); });
     for (const int error : {ENOSPC, EACCES, EIO, shortWrite}) {
-        for (int n = 1; workWithFault(n, error, moments); ++n) {
+        bool came = true;
+        for (int n = 1; came; ++n) {
+            came = false;
+            armFault(n, error);
+            runWork([&](std::size_t line, const std::string& calculation) {
+                if (failedCall().empty() || std::exchange(came, true) || line == 0) return;
+                expectOneOf(momentOf(calculation), moments[line - 1], moments[line]);
+            });
             if (HasFailure()) FAIL() << "fault " << n << " of " << error << ": " << told_;
         }
     }
@@ -175,30 +130,21 @@ TEST_F(Faults, leaveTheCalculationAndWholeFiles) {
 
 // Types a number and stores it, and the next one, for ever; tells each number when it is stored.
 [[noreturn]] void storeNumbers(int from, int pipe) {
-    std::ostringstream told;
     std::string lines = "start\nwait 3000\n";
     for (int i = from; i < from + 10000; ++i) {
         lines += "press C\ntype " + std::to_string(i) + "+\nclick Save\n";
     }
-    std::istringstream script(lines);
-    ScriptRunner runner(told, told);
-    runner.onLine = [&, number = from](std::string_view line, Program&) mutable {
+    run(lines, [&, number = from](std::string_view line, Program&) mutable {
         if (line == "click Save" && ::write(pipe, &number, sizeof number) == sizeof number) ++number;
-    };
-    runner.run(script);
+    });
     ::_exit(EXIT_FAILURE);
 }
 
 // What stands behind the next start.
 std::string numberAfterStart() {
-    std::ostringstream told;
-    std::istringstream script("start\nwait 3000\n");
-    ScriptRunner runner(told, told);
     std::string number;
-    runner.onLine = [&](std::string_view, Program& program) {
-        number = toUtf8(program.pultform.state.zwischen.text());
-    };
-    runner.run(script);
+    run("start\nwait 3000\n",
+        [&](std::string_view, Program& program) { number = toUtf8(program.pultform.state.zwischen.text()); });
     std::erase(number, '.');  // of the groups
     return number;
 }

@@ -1,8 +1,9 @@
 #include "tests/fuzz/agreement.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
-#include <utility>
+#include <sstream>
 #include <vector>
 
 #include "core/number_text.h"
@@ -10,8 +11,6 @@
 namespace zifferon {
 
 namespace {
-
-constexpr TextView figures = u"0123456789,.-";
 
 void require(bool holds, const char* claim, const CalculatorState& state) {
     if (holds) return;
@@ -21,54 +20,45 @@ void require(bool holds, const char* claim, const CalculatorState& state) {
                        toUtf8(state.superdruck.text()));
 }
 
-Text trimmed(TextView line) {
-    const std::size_t first = std::min(line.find_first_not_of(u' '), line.size());
-    return Text(line.substr(first, line.find_last_not_of(u' ') + 1 - first));
-}
-
-std::vector<Text> linesOf(TextView text) {
-    std::vector<Text> lines;
-    for (std::size_t begin = 0; begin <= text.size();) {
-        const std::size_t end = std::min(text.find(u"\r\n", begin), text.size());
-        lines.push_back(trimmed(text.substr(begin, end - begin)));
-        begin = end + 2;
-    }
-    return lines;
-}
-
 // The numbers of a tape, each as it is written.
-std::vector<Text> numbersOf(TextView tape) {
-    std::vector<Text> numbers;
-    Text number;
-    for (const char16_t c : Text(tape) + u' ') {
-        if (figures.find(c) != TextView::npos) {
-            number += c;
-        } else {
-            if (number.find_first_of(u"0123456789") != Text::npos) numbers.push_back(number);
-            number.clear();
-        }
-    }
+std::vector<std::string> numbersOf(TextView tape) {
+    std::string text = toUtf8(tape);
+    std::ranges::replace_if(
+        text, [](char c) { return std::string_view("0123456789,.-").find(c) == std::string::npos; }, ' ');
+    std::istringstream words(text);
+    std::vector<std::string> numbers(std::istream_iterator<std::string>(words), {});
+    std::erase_if(numbers, [](const std::string& word) {
+        return word.find_first_of("0123456789") == std::string::npos;
+    });
     return numbers;
 }
 
 // A line of the print copy: a number, and the mark behind it.
 struct Line {
     std::optional<Decimal> value;
-    Text mark;
+    std::string mark;
 
-    bool isStep() const { return mark == u"+" || mark == u"-" || mark == u"x" || mark == u"/"; }
-    bool beginsChain() const { return mark.empty() || mark == u"=" || mark == u"«"; }
+    bool isStep() const { return value && (mark == "+" || mark == "-" || mark == "x" || mark == "/"); }
+    bool beginsChain() const { return value && (mark.empty() || mark == "=" || mark == "«"); }
 };
 
-Line lineOf(const Text& text, Separators separators) {
-    const std::size_t end = std::min(text.find(u' '), text.size());
-    return {tryParseDecimal(text.substr(0, end), separators), trimmed(TextView(text).substr(end))};
+std::vector<Line> linesOf(TextView text, Separators separators) {
+    std::vector<Line> lines;
+    std::istringstream all(toUtf8(text));
+    for (std::string line; std::getline(all, line);) {
+        std::istringstream words(line);
+        std::string number, mark;
+        words >> number;
+        for (std::string word; words >> word;) mark += word;
+        lines.push_back({tryParseDecimal(fromUtf8(number), separators), mark});
+    }
+    return lines;
 }
 
 Decimal behind(const Decimal& value, const Line& step) {
-    if (step.mark == u"+") return value + *step.value;
-    if (step.mark == u"-") return value - *step.value;
-    if (step.mark == u"x") return value * *step.value;
+    if (step.mark == "+") return value + *step.value;
+    if (step.mark == "-") return value - *step.value;
+    if (step.mark == "x") return value * *step.value;
     return value / *step.value;
 }
 
@@ -77,8 +67,7 @@ Decimal behind(const Decimal& value, const Line& step) {
 void requireChainHolds(const CalculatorState& state) { require(chainHolds(state), "the chain holds", state); }
 
 void requireTapesAgree(const CalculatorState& state) {
-    const std::vector<Text> tape = numbersOf(state.anzeige.text());
-    const std::vector<Text> print = numbersOf(state.superdruck.text());
+    const auto tape = numbersOf(state.anzeige.text()), print = numbersOf(state.superdruck.text());
     auto printed = print.rbegin();
     for (auto shown = tape.rbegin(); shown != tape.rend(); ++shown) {
         printed = std::find(printed, print.rend(), *shown);
@@ -88,32 +77,16 @@ void requireTapesAgree(const CalculatorState& state) {
 }
 
 void requireTotalOfItsLines(const CalculatorState& state) {
-    const std::vector<Text> lines = linesOf(state.superdruck.text());
-    if (!state.txtop.is(u"=") || lines.size() < 3 || !lines[lines.size() - 2].empty()) return;
-    const Separators separators = state.separators();
-    const Line total = lineOf(lines.back(), separators);
-    if (total.mark != u"=" || !total.value) return;
-    std::vector<Line> steps;
-    std::size_t at = lines.size() - 2;
-    Line first;
-    do {
-        first = lineOf(lines[--at], separators);
-        if (!first.value) return;
-        if (first.isStep()) steps.push_back(first);
-    } while (at > 0 && first.isStep());
-    if (!first.beginsChain()) return;
-    Decimal sum = *first.value;
-    for (auto step = steps.rbegin(); step != steps.rend(); ++step) sum = behind(sum, *step);
-    require(sum == *total.value, "a total is the result of its lines", state);
-}
-
-std::string recordBytes(CalculatorState& state) {
-    CalculationRecord record(state);
-    gatherRecord(record);
-    const EncodedRecord encoded(record);
-    std::string bytes;
-    for (const std::string_view piece : encoded.pieces()) bytes += piece;
-    return bytes;
+    const std::vector<Line> lines = linesOf(state.superdruck.text(), state.separators());
+    if (!state.txtop.is(u"=") || lines.size() < 3) return;
+    const auto total = lines.end() - 1, gap = total - 1;
+    if (total->mark != "=" || !total->value || gap->value || !gap->mark.empty()) return;
+    auto line = gap - 1;
+    while (line != lines.begin() && line->isStep()) --line;
+    if (!line->beginsChain()) return;
+    Decimal sum = *line->value;
+    while (++line != gap) sum = behind(sum, *line);
+    require(sum == *total->value, "a total is the result of its lines", state);
 }
 
 }  // namespace zifferon

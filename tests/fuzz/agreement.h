@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "storage/calculation_record.h"
+#include "core/calculator_state.h"
 
 namespace zifferon {
 
@@ -23,8 +23,5 @@ void requireTapesAgree(const CalculatorState& state);
 // Where a total stands, it is the exact result of its lines on the print copy, back to the number, or the
 // result, that its chain began with. Lines of a percentage or of rounding end the chain that is looked at.
 void requireTotalOfItsLines(const CalculatorState& state);
-
-// The calculation as a record's bytes.
-std::string recordBytes(CalculatorState& state);
 
 }  // namespace zifferon

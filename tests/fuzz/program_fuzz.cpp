@@ -12,6 +12,7 @@
 #include "shell/required_files.h"
 #include "tests/fuzz/agreement.h"
 #include "tests/fuzz/script_of_bytes.h"
+#include "tests/support/record_bytes.h"
 
 namespace zifferon {
 namespace {
@@ -82,27 +83,17 @@ void layOutFolder() {
     for (const char* const name : requiredFiles) std::ofstream(name).flush();
 }
 
-Program& programToAsk() {
-    static std::ostringstream log;
-    static HeadlessMachine headless(log);
-    static HeadlessSystem system;
-    static PosixFiles files(".");
-    static Machine machine = headless.with(files, system);
-    static Program program(machine);
-    return program;
-}
-
 }  // namespace
 }  // namespace zifferon
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace zifferon;
     static const bool tell = std::getenv("ZIFFERON_TELL") != nullptr;
+    const FuzzScript script = scriptOfBytes({data, size});
     layOutFolder();
-    const FuzzScript script = scriptOfBytes({data, size}, programToAsk());
     Story story(script);
+    if (tell) std::cout << script.lines << std::flush;
     try {
-        if (tell) std::cout << script.lines << std::flush;
         story.run();
         if (tell) std::cout << story.told() << std::flush;
     } catch (const Disagreement& reason) {

@@ -1,11 +1,9 @@
-// Key scripts out of bytes, for a fuzzer: each byte, or two, chooses a line.
+// Key scripts out of bytes, for a fuzzer: each byte, or two, chooses a line or a word of one.
 #pragma once
 
-#include <cstddef>
 #include <span>
 #include <string>
-
-#include "shell/program.h"
+#include <string_view>
 
 namespace zifferon {
 
@@ -18,7 +16,7 @@ struct FuzzScript {
     bool calculates = false;  // keys of calculating alone, so that total and tapes must agree
 };
 
-// `program` names the controls that may be clicked.
-FuzzScript scriptOfBytes(std::span<const unsigned char> bytes, Program& program);
+// Needs a current folder in which a calculator may begin.
+FuzzScript scriptOfBytes(std::span<const unsigned char> bytes);
 
 }  // namespace zifferon

@@ -5,9 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <chrono>
-#include <functional>
+#include <optional>
 #include <thread>
 
 #include "tests/support/fresh_folder.h"
@@ -17,95 +18,79 @@ namespace {
 
 class SoundPlayerTest : public testing::Test {
   protected:
-    SoundPlayerTest() { qputenv("PATH", programs_.path().c_str()); }
-    ~SoundPlayerTest() override { qputenv("PATH", path_); }
+    SoundPlayerTest() { qputenv("PATH", programs.path().c_str()); }
+    ~SoundPlayerTest() override { qputenv("PATH", path); }
+
+    void offer(const std::string& name, const std::string& script) {
+        programs.put(name, script);
+        std::filesystem::permissions(programs / name, std::filesystem::perms::owner_all);
+    }
 
     // A program that notes its name and its argument, and then goes on as told.
-    void offer(const std::string& name, const std::string& then) {
-        const std::string log = (programs_ / "log").string();
-        programs_.put(name, "#!/bin/sh\necho " + name + " \"$@\" >>'" + log + "'\n" + then + '\n');
-        std::filesystem::permissions(programs_ / name, std::filesystem::perms::owner_all);
+    void offerPlayer(const std::string& name, const std::string& then = "") {
+        const std::string log = (programs / "log").string();
+        offer(name, "#!/bin/sh\nexec >>'" + log + "'\necho " + name + " \"$@\"\n" + then + '\n');
     }
 
-    std::string log() const { return programs_.bytes("log"); }
-
-    static bool waitUntil(const std::function<bool()>& holds) {
-        QElapsedTimer time;
-        for (time.start(); time.elapsed() < 5000;) {
-            if (holds()) return true;
+    // What is noted next, and nothing else.
+    void expectNoted(const std::string& notes) {
+        noted += notes;
+        const QDeadlineTimer end(5000);
+        while (programs.bytes("log") != noted && !end.hasExpired()) {
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
         }
-        return holds();
+        ASSERT_EQ(programs.bytes("log"), noted);
     }
 
-    QByteArray path_ = qgetenv("PATH");
-    FreshFolder programs_;
+    void expectPlayed(const char* sound, const std::string& notes) {
+        player->play(sound);
+        expectNoted(notes);
+    }
+
+    QByteArray path = qgetenv("PATH");
+    FreshFolder programs;
+    std::string noted;
+    std::optional<SoundPlayer> player{std::in_place};
 };
 
-TEST_F(SoundPlayerTest, aNewSoundCutsOffTheOneBeforeAndNobodyWaits) {
-    const std::string ended = (programs_ / "ended").string();
-    offer("paplay", "/bin/sleep 1; echo $1 >>'" + ended + "'");
-    offer("aplay", "");
-    SoundPlayer player;
+TEST_F(SoundPlayerTest, aNewSoundOrTheEndCutsOffTheOneBeforeAndNobodyWaits) {
+    offerPlayer("paplay", "/bin/sleep 1; echo end of $1");
+    offerPlayer("aplay");
     QElapsedTimer time;
     time.start();
-    player.play("start.wav");
+    player->play("start.wav");
     EXPECT_LT(time.elapsed(), 500);
-    ASSERT_TRUE(waitUntil([&] { return log() == "paplay start.wav\n"; })) << log();
-
-    player.play("undo.wav");
-
+    expectNoted("paplay start.wav\n");
+    player->play("undo.wav");
     EXPECT_LT(time.elapsed(), 900) << "the first sound still plays";
-    ASSERT_TRUE(waitUntil([&] { return programs_.has("ended"); }));
-    EXPECT_EQ(log(), "paplay start.wav\npaplay undo.wav\n");
-    EXPECT_EQ(programs_.bytes("ended"), "undo.wav\n");
+    expectNoted("paplay undo.wav\nend of undo.wav\n");
+
+    expectPlayed("trash.wav", "paplay trash.wav\n");
+    player.reset();
+    std::this_thread::sleep_for(std::chrono::milliseconds(1300));
+    expectNoted("");
 }
 
 TEST_F(SoundPlayerTest, aPlayerThatFailsGivesWayToTheNext) {
-    offer("paplay", "exit 1");
-    offer("aplay", "");
-    SoundPlayer player;
-    player.play("start.wav");
-    ASSERT_TRUE(waitUntil([&] { return log() == "paplay start.wav\naplay start.wav\n"; })) << log();
-
-    player.play("undo.wav");
-
-    EXPECT_TRUE(waitUntil([&] { return log().ends_with("start.wav\naplay undo.wav\n"); })) << log();
+    offerPlayer("paplay", "exit 1");
+    offerPlayer("aplay");
+    expectPlayed("start.wav", "paplay start.wav\naplay start.wav\n");
+    expectPlayed("undo.wav", "aplay undo.wav\n");
 }
 
 TEST_F(SoundPlayerTest, aPlayerThatCannotBeStartedGivesWayToo) {
-    programs_.put("paplay", "#!/no/such/shell\n");
-    std::filesystem::permissions(programs_ / "paplay", std::filesystem::perms::owner_all);
-    offer("aplay", "");
-    SoundPlayer player;
-    player.play("start.wav");
-    ASSERT_TRUE(waitUntil([&] { return log() == "aplay start.wav\n"; })) << log();
-    player.play("undo.wav");
-    EXPECT_TRUE(waitUntil([&] { return log() == "aplay start.wav\naplay undo.wav\n"; })) << log();
+    offer("paplay", "#!/no/such/shell\n");
+    offerPlayer("aplay");
+    expectPlayed("start.wav", "aplay start.wav\n");
+    expectPlayed("undo.wav", "aplay undo.wav\n");
 }
 
 TEST_F(SoundPlayerTest, isSilentWhenAllFailOrThereIsNone) {
-    SoundPlayer none;
-    none.play("start.wav");
-
-    offer("pw-play", "exit 1");
-    SoundPlayer player;
-    player.play("undo.wav");
-    ASSERT_TRUE(waitUntil([&] { return !log().empty(); }));
-    player.play("trash.wav");
-    EXPECT_TRUE(waitUntil([&] { return log() == "pw-play undo.wav\npw-play trash.wav\n"; })) << log();
-}
-
-TEST_F(SoundPlayerTest, theLastSoundEndsWithTheProgram) {
-    const std::string ended = (programs_ / "ended").string();
-    offer("paplay", "/bin/sleep 0.3; echo >'" + ended + "'");
-    {
-        SoundPlayer player;
-        player.play("start.wav");
-        ASSERT_TRUE(waitUntil([&] { return !log().empty(); }));
-    }
-    std::this_thread::sleep_for(std::chrono::milliseconds(600));
-    EXPECT_FALSE(programs_.has("ended"));
+    expectPlayed("start.wav", "");
+    offerPlayer("pw-play", "exit 1");
+    player.emplace();
+    expectPlayed("undo.wav", "pw-play undo.wav\n");
+    expectPlayed("trash.wav", "pw-play trash.wav\n");
 }
 
 }  // namespace

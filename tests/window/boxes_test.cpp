@@ -1,5 +1,4 @@
 // Message boxes and modal windows, answered by the keyboard.
-#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -24,7 +23,19 @@ class BoxesTest : public WindowTest {
     }
 };
 
-TEST_F(BoxesTest, AnswersComeFromTheKeyboard) {
+TEST_F(BoxesTest, AnswersComeFromTheKeyboardAndWhatWasDoneIsSeenBehind) {
+    answer({BoxIcon::none, BoxButtons::yesNo, u"Titel", u"<b>a</b>   ", Language::english},
+           [&](QWidget& shown) {
+               EXPECT_TRUE(std::ranges::any_of(shown.findChildren<QLabel*>(), [](const QLabel* label) {
+                   return label->text() == u"<b>a</b>   " && label->textFormat() == Qt::PlainText;
+               }));
+               QStringList buttons;
+               for (const QPushButton* button : shown.findChildren<QPushButton*>()) buttons += button->text();
+               EXPECT_EQ(buttons.join(' '), QStringLiteral("&Yes &No"));
+               EXPECT_EQ(widget<QLineEdit>("zwischen").text(), QStringLiteral("before the box"));
+               hands.stroke({keys::enter});
+           });
+
     Box box{BoxIcon::question, BoxButtons::yesNo, u"Zifferon PRO 5.0", u"Frage?"};
     EXPECT_EQ(answer(box, pressing(keys::enter)), BoxAnswer::yes);
     const auto onlyByItsButtons = [this](QWidget& shown) {
@@ -45,31 +56,23 @@ TEST_F(BoxesTest, AnswersComeFromTheKeyboard) {
     EXPECT_EQ(answer(box, pressing(keys::escape)), BoxAnswer::ok);
 }
 
-TEST_F(BoxesTest, TextIsPlainAndWhatWasDoneIsSeenBehindIt) {
-    const Box box{BoxIcon::none, BoxButtons::yesNo, u"Titel", u"<b>a</b>   ", Language::english};
-    answer(box, [this](QWidget& shown) {
-        bool plain = false;
-        for (const QLabel* label : shown.findChildren<QLabel*>()) {
-            plain |= label->text() == u"<b>a</b>   " && label->textFormat() == Qt::PlainText;
-        }
-        EXPECT_TRUE(plain);
-        QStringList buttons;
-        for (const QPushButton* button : shown.findChildren<QPushButton*>()) buttons += button->text();
-        EXPECT_EQ(buttons, QStringList({QStringLiteral("&Yes"), QStringLiteral("&No")}));
-        EXPECT_EQ(view.findChild<QLineEdit*>(QStringLiteral("zwischen"))->text(),
-                  QStringLiteral("before the box"));
-        hands.stroke({keys::enter});
-    });
-}
-
 TEST_F(BoxesTest, KeyThatClosesAModalWindowDoesNotActBehindIt) {
     state().memo[0].setText(u"19");
     whenAWindowOpens(pressing(keys::enter));
     click(state().zurück, {20, 10});
-    EXPECT_TRUE(comesTrue([&] { return !watch.isActive() && view.isActiveWindow(); }));
+    EXPECT_SOON(allHaveActed() && view.isActiveWindow());
     EXPECT_EQ(state().memo[0].text(), u"");
     hands.stroke({keys::keypad5, keys::keypadAdd});
-    EXPECT_TRUE(comesTrue([&] { return tape() == "\r\n5,00      "; })) << tape();
+    EXPECT_BECOMES(tape(), "\r\n5,00      ");
+}
+
+TEST_F(BoxesTest, AnEndedSessionLeavesNothingOnTheScreen) {
+    whenAWindowOpens([&](QWidget&) {
+        machine.machine.windows.hideAll();
+        for (const QWidget* widget : QApplication::topLevelWidgets()) EXPECT_FALSE(widget->isVisible());
+    });
+    hands.stroke({keys::right});  // nothing to undo
+    EXPECT_SOON(allHaveActed() && QApplication::activeModalWidget() == nullptr);
 }
 
 }  // namespace

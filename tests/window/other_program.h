@@ -1,50 +1,66 @@
-// Another program on the screen, with a window that can be in front, and with the rights of a task bar.
+// Another program on the screen, with a window that can be in front.
 #pragma once
 
 #include <xcb/xcb.h>
 
-#include <QWidget>
 #include <cstdint>
-#include <set>
+#include <cstdlib>
+#include <map>
 
 namespace zifferon::test {
 
 class OtherProgram {
   public:
     // Its window is shown, and gets the keyboard as soon as the window manager is done.
-    OtherProgram();
-    ~OtherProgram();
-    OtherProgram(const OtherProgram&) = delete;
-    OtherProgram& operator=(const OtherProgram&) = delete;
+    OtherProgram() {
+        const std::uint32_t events[] = {XCB_EVENT_MASK_KEY_PRESS};
+        xcb_create_window(x_, XCB_COPY_FROM_PARENT, window_, root_, 0, 0, 300, 200, 0,
+                          XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, events);
+        xcb_map_window(x_, window_);
+        settle();
+    }
+    ~OtherProgram() { xcb_disconnect(x_); }
 
-    bool hasKeyboard();
+    bool hasKeyboard() {
+        auto* const reply = xcb_get_input_focus_reply(x_, xcb_get_input_focus(x_), nullptr);
+        const bool has = reply->focus == window_;
+        std::free(reply);
+        return has;
+    }
 
-    // Whether a press of that key has come to it.
-    bool wasGiven(int keyCode);
+    // How many presses of that key have come to it.
+    int timesGiven(int keyCode) {
+        settle();
+        while (xcb_generic_event_t* const event = xcb_poll_for_event(x_)) {
+            if ((event->response_type & 0x7F) == XCB_KEY_PRESS) {
+                ++given_[reinterpret_cast<xcb_key_press_event_t*>(event)->detail];
+            }
+            std::free(event);
+        }
+        return given_[keyCode];
+    }
 
-    // Takes that key together with Control from all programs.
-    void grabWithControl(int keyCode);
-
-    // What the user does to a window by the task bar or the buttons of its frame.
-    void minimise(const QWidget& window);
-    void bringToFront(const QWidget& window);
-
-    // What the window manager says of a window.
-    bool isOnTop(const QWidget& window);
-    bool isMinimised(const QWidget& window);
+    // Takes that key from all programs, whatever is held down with it.
+    void grab(int keyCode) {
+        xcb_grab_key(x_, 0, root_, XCB_MOD_MASK_ANY, static_cast<xcb_keycode_t>(keyCode), XCB_GRAB_MODE_ASYNC,
+                     XCB_GRAB_MODE_ASYNC);
+        settle();
+    }
 
     // Gives a key of the keyboard another meaning, for all programs.
-    void setMeaning(int keyCode, xcb_keysym_t symbol);
+    void setMeaning(int keyCode, xcb_keysym_t symbol) {
+        xcb_change_keyboard_mapping(x_, 1, static_cast<xcb_keycode_t>(keyCode), 1, &symbol);
+        settle();
+    }
 
   private:
-    xcb_atom_t atom(const char* name);
-    bool propertyHolds(const QWidget& window, const char* property, std::uint32_t value);
-    void askManager(const QWidget& window, const char* request, std::uint32_t what);
-    void settle();
+    // Returns once the screen has taken all that was asked of it.
+    void settle() { hasKeyboard(); }
 
-    xcb_connection_t* x_;
-    xcb_window_t root_, window_;
-    std::set<int> given_;
+    xcb_connection_t* x_ = xcb_connect(nullptr, nullptr);
+    xcb_window_t root_ = xcb_setup_roots_iterator(xcb_get_setup(x_)).data->root;
+    xcb_window_t window_ = xcb_generate_id(x_);
+    std::map<int, int> given_;
 };
 
 }  // namespace zifferon::test

@@ -1,11 +1,7 @@
 #include "tests/window/window_fixture.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
-#include <QStandardPaths>
 #include <QSystemTrayIcon>
-#include <chrono>
-#include <thread>
 
 namespace zifferon::test {
 
@@ -23,50 +19,62 @@ void letPass(int milliseconds) {
     comesTrue([] { return false; }, milliseconds);
 }
 
-bool TrayHost::start() {
-    const QString host = QStandardPaths::findExecutable(QStringLiteral("trayer"));
-    if (host.isEmpty()) return false;
-    process_.start(host,
-                   QStringLiteral("--edge bottom --align left --widthtype request --height 24").split(u' '));
-    return comesTrue([] { return QSystemTrayIcon::isSystemTrayAvailable(); });
+QByteArray outputOf(const QString& command) {
+    QProcess process;
+    process.startCommand(command);
+    comesTrue([&] { return process.state() == QProcess::NotRunning; });
+    return process.readAllStandardOutput();
 }
 
-void TrayHost::stop() {
-    process_.terminate();
-    process_.waitForFinished();
+bool startTray(QProcess& host) {
+    host.startCommand(QStringLiteral("trayer --edge bottom --align left --widthtype request --height 24"));
+    return host.waitForStarted() && comesTrue([] { return QSystemTrayIcon::isSystemTrayAvailable(); });
 }
 
 void WindowTest::SetUp() {
     program.beginFresh();
     view.refresh();
-    ASSERT_TRUE(comesTrue([&] { return view.isActiveWindow(); }));
+    ASSERT_SOON(view.isActiveWindow());
     hands.setNumLock(true);
 }
 
-void WindowTest::pressWith(int modifier, int key) {
-    hands.down(modifier);
-    hands.stroke({key});
-    hands.up(modifier);
+void WindowTest::setVisible(bool visible) {
+    program.pultform.visible = visible;
+    view.refresh();
+    EXPECT_SOON(view.isActiveWindow() == visible);
+    letPass(100);
 }
 
 QPoint WindowTest::onScreen(const Control& control, QPoint offset) {
     return view.mapToGlobal(pixels(control.place).topLeft() + offset);
 }
 
-void WindowTest::click(const Control& control, QPoint offset, int button) {
-    hands.moveMouse(onScreen(control, offset));
+void WindowTest::clickAt(QPoint point, int button) {
+    hands.moveMouse(point);
     hands.click(button);
 }
 
+void WindowTest::click(const Control& control, QPoint offset, int button) {
+    clickAt(onScreen(control, offset), button);
+}
+
 void WindowTest::whenAWindowOpens(const std::function<void(QWidget&)>& person) {
-    watch.disconnect();
-    watch.callOnTimeout([this, person] {
-        QWidget* const shown = QApplication::activeModalWidget();
-        if (shown == nullptr || !shown->isActiveWindow()) return;
-        watch.stop();
-        person(*shown);
-    });
-    watch.start(10);
+    persons.push_back(person);
+    lastOpened = QApplication::activeModalWidget();
+    watching.disconnect();
+    watching.callOnTimeout([this] { watch(); });
+    watching.start(10);
+}
+
+void WindowTest::watch() {
+    QWidget* const shown = QApplication::activeModalWidget();
+    if (shown == nullptr || shown == lastOpened || !shown->isActiveWindow()) return;
+    lastOpened = shown;
+    const auto person = persons.front();
+    persons.pop_front();
+    watching.stop();
+    if (!persons.empty()) watching.start(10);  // anew, or it would be silent while this one acts
+    person(*shown);
 }
 
 }  // namespace zifferon::test

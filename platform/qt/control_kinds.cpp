@@ -34,12 +34,12 @@ class LabelView : public ControlView {
     std::optional<Alignment> alignment_;
 };
 
-// Push buttons and check boxes. The keyboard never goes to them: their access keys take the key road.
+// Push buttons and check boxes. No click gives them the keyboard, and their access keys take the key road.
 class ButtonView : public ControlView {
   public:
     ButtonView(Control& control, QAbstractButton& button, FormView& form)
         : ControlView(control, button, form), button_(button) {
-        button_.setFocusPolicy(Qt::NoFocus);
+        button_.setFocusPolicy(form.window().isTabStop(control) ? Qt::TabFocus : Qt::NoFocus);
         button_.setAutoFillBackground(!control.flat);
         connect(&button_, &QAbstractButton::clicked, this, [this] { this->form().press(this->control()); });
     }
@@ -144,7 +144,7 @@ class FrameView : public ControlView {
 };
 
 // A drawing, sharp at every scale, and read when it is first seen. Without one the picture is a mere place,
-// and what lies below it is seen.
+// and what lies below it is seen. With the keyboard it has a line around it.
 class Picture : public QWidget {
   public:
     using QWidget::QWidget;
@@ -162,6 +162,10 @@ class Picture : public QWidget {
         if (!drawing_) drawing_ = std::make_unique<QSvgRenderer>(fileName_);
         QPainter painter(this);
         drawing_->render(&painter);
+        if (!hasFocus()) return;
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.setPen(Qt::white);
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
     }
 
     QString fileName_;

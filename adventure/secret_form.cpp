@@ -93,6 +93,7 @@ void SecretForm::open() { machine_.windows.show(*this); }
 // A main window that has been called back beside it stays.
 void SecretForm::activated() {
     if (mainWindow_.visible && !std::exchange(mainWasVisible_, true)) machine_.windows.hide(mainWindow_);
+    Image1.accessibleName = Words{u"Rätsel", u"Riddle"}.in(language_);
     setFocus(Text1);
 }
 

@@ -61,12 +61,12 @@ int OwnStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidge
 // A control that has the keyboard shows it, however it came to it.
 void OwnStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                            const QWidget* widget) const {
-    const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* const pressable = qstyleoption_cast<const QStyleOptionButton*>(option);
     const bool shows = element == CE_PushButton || element == CE_CheckBox;
-    if (!shows || button == nullptr || !(button->state & State_HasFocus)) {
+    if (!shows || pressable == nullptr || !(pressable->state & State_HasFocus)) {
         return QProxyStyle::drawControl(element, option, painter, widget);
     }
-    QStyleOptionButton focused(*button);
+    QStyleOptionButton focused(*pressable);
     focused.state |= State_KeyboardFocusChange;
     QProxyStyle::drawControl(element, &focused, painter, widget);
 }

@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/tab_order.h"
+
 namespace zifferon {
 
 namespace {
@@ -53,6 +55,9 @@ Puzzle::Puzzle(const TextField& code, const Language& language, const Messages& 
     addBoard();
     addPictures();
     addTexts();
+    for (Control* const control : {&Command1, &Picture5, &Picture6, &Picture7, &Picture8}) {
+        tabOrder.push_back(control);
+    }
     reset();
 }
 
@@ -70,6 +75,8 @@ void Puzzle::addBoard() {
     for (std::size_t i = 0; i < quarters_.size(); ++i) {
         add(quarters_[i].piece, pieces[i]);
         quarters_[i].piece.draggable = true;
+        quarters_[i].piece.onKeyPress = [this, i](char16_t& digit) { keyPressed(quarters_[i].piece, digit); };
+        tabOrder.push_back(&quarters_[i].piece);
     }
 }
 
@@ -85,6 +92,11 @@ void Puzzle::addPictures() {
     addPicture(Picture8, u"Picture8", u"author");
     Picture5.onDoubleClick = [this] { askThePicture(); };
     Picture6.onClick = [this] { Picture7.visible = true; };
+    Picture5.doWhenConfirmed([this] {
+        askThePicture();
+        if (!Picture5.visible) setFocus(Picture6);
+    });
+    Picture6.doWhenConfirmed([this] { Picture6.click(); });
     Picture8.onMouseMove = [this] { Picture8.toolTip = tipOfTheAuthor.in(language_); };
 }
 
@@ -97,6 +109,7 @@ void Puzzle::addTexts() {
     Text1.font = {u"Arial", 8.25, false};
     Text1.alignment = Alignment::centre;
     Text1.setText(u"Zifferon PRO 5.0\r\n____________________\r\n100 % made of recycled electrons");
+    Text1.accessibleName = programTitle;
     Text1.onClick = [this] { setFocus(Command1); };
     add(Command1, u"Command1");
     Command1.place = {1140, 3780, 1890, 390};
@@ -137,6 +150,7 @@ void Puzzle::activated() {
     Picture6.toolTip = Picture6.accessibleName = tipOfTheFirstHead.in(language_);
     Picture7.toolTip = Picture7.accessibleName = tipOfTheSecondHead.in(language_);
     Picture8.accessibleName = tipOfTheAuthor.in(language_);
+    Picture5.accessibleName = Words{u"Das gelöste Puzzle", u"The solved puzzle"}.in(language_);
     char16_t number = u'1';
     for (const Quarter& quarter : quarters_) {
         quarter.piece.accessibleName = Text(Words{u"Teil ", u"Piece "}.in(language_)) + number;
@@ -145,6 +159,7 @@ void Puzzle::activated() {
     }
     timelab.caption.clear();
     deal();
+    setFocus(quarters_.front().piece);
     puzzleStartTime_ = wholeSeconds(machine_.system.now());
     nextStepBirds_ = nextStepAuthor_ = false;
 }
@@ -170,6 +185,14 @@ void Puzzle::dropped(const Quarter& quarter, Control& dragged) {
     const bool all = std::none_of(quarters_.begin(), quarters_.end(),
                                   [](const Quarter& other) { return other.piece.visible; });
     if (all) solved(quarter);
+}
+
+// Without a mouse a digit lays the piece that has the focus on the field of that number.
+void Puzzle::keyPressed(Control& piece, char16_t& digit) {
+    const int field = std::exchange(digit, u'\0') - u'1';
+    if (field < 0 || field >= int(quarters_.size())) return;
+    dropped(quarters_[std::size_t(field)], piece);
+    if (!piece.visible && focus() == &piece) focusNext(*this);
 }
 
 // A minute more makes no difference: only the seconds of the time between are looked at.

@@ -49,6 +49,7 @@ class Puzzle : public Window {
     void activated();
     void deal();
     void dropped(const Quarter& quarter, Control& dragged);
+    void keyPressed(Control& piece, char16_t& digit);
     void solved(const Quarter& last);
     void tellOfTheBirds();
     void tellOfTheAuthor();

@@ -4,6 +4,7 @@
 #include <tuple>
 #include <utility>
 
+#include "platform/key.h"
 #include "print/print_job.h"
 
 namespace zifferon {
@@ -43,11 +44,15 @@ void SecretForm::addControls() {
     Text1.backColour = {255, 255, 255};
     Text1.takesFocus = true;
     Text1.accessibleName = u"Login";
+    Text1.onKeyDown = [this](int& code) {
+        if (code == keyCode::f1) Help.click();  // without a mouse, and without its haste
+    };
     Text1.onKeyPress = [this](char16_t& character) { keyPressed(character); };
     add(Picture1, u"Picture1");
     Picture1.place = {0, 0, rewardWidth - frameWidth, rewardHeight - frameHeight};
     Picture1.picture = rewardDrawing;
     Picture1.onDoubleClick = [this] { askToPrint(); };
+    Picture1.doWhenConfirmed([this] { askToPrint(); });
     for (const auto& [picture, controlName, drawing] :
          {std::tuple<Control&, TextView, TextView>{Picture2, u"Picture2", rewardDrawing},
           {Image2, u"Image2", u"riddle_solved"},
@@ -88,6 +93,7 @@ void SecretForm::open() { machine_.windows.show(*this); }
 // A main window that has been called back beside it stays.
 void SecretForm::activated() {
     if (mainWindow_.visible && !std::exchange(mainWasVisible_, true)) machine_.windows.hide(mainWindow_);
+    Image1.accessibleName = Words{u"Rätsel", u"Riddle"}.in(language_);
     setFocus(Text1);
 }
 
@@ -135,6 +141,7 @@ void SecretForm::reward() {
     place.height = rewardHeight;
     Picture1.visible = true;
     Text1.visible = false;
+    setFocus(Picture1);
     caption = Picture1.accessibleName =
         Words{u"Doppelklick, um das Bild zu drucken", u"DoubleClick to print picture"}.in(language_);
 }

@@ -13,8 +13,6 @@ constexpr Place outside{-3000, 0, 300, 300};
 // The quick reference is 503 by 326 pixels.
 constexpr Place reference{120, 120, 7545, 4890};
 
-bool isConfirmation(char16_t character) { return character == u'\r' || character == u' '; }
-
 }  // namespace
 
 HelpWindow::HelpWindow() {
@@ -36,6 +34,8 @@ HelpWindow::HelpWindow() {
     Picture1.takesFocus = true;
     Picture1.onClick = [this] { setFocus(Picture1); };
     add(Timer2, u"Timer2");
+    tabOrder = {&Text6,    &puzzle1,  &Command5, &printhelp, &Command4,
+                &Command3, &Command2, &Command1, &Picture2,  &Picture1};
     onDismiss = [this] { visible = false; };
     for (Control* const control : controls()) {
         control->onKeyDown = [this](int& code) {
@@ -65,6 +65,9 @@ void HelpWindow::addTexts() {
     addText(Text3, u"Text3", 6000, u"Desktop calculator with a virtual paper tape");
     addText(Text8, u"Text8", 6345, webSiteName);
     Text6.onDoubleClick = [this] { showPuzzleButton(); };
+    Text6.onGotFocus = [this] { Text6.selectAll(); };
+    Text6.onLostFocus = [this] { Text6.setCaret(0); };
+    Text6.doWhenConfirmed([this] { showPuzzleButton(); });
     Text1.onGotFocus = [this] { setFocus(Picture1); };
 }
 
@@ -73,9 +76,7 @@ void HelpWindow::addButtons() {
         add(button, buttonName);
         button.place = buttonPlace;
         button.backColour = key;
-        button.onKeyPress = [&button](char16_t& character) {
-            if (isConfirmation(std::exchange(character, u'\0'))) button.click();
-        };
+        button.doWhenConfirmed([&button] { button.click(); });
     };
     addButton(puzzle1, u"puzzle1", {4350, 1712, 605, 375});
     puzzle1.picture = u"puzzle_button";
@@ -95,6 +96,7 @@ void HelpWindow::addButtons() {
     Picture2.picture = u"web_site";
     Picture2.accessibleName = webSiteName;
     Picture2.toolTip = webSiteName;
+    Picture2.doWhenConfirmed([this] { Picture2.click(); });
     Command3.caption = u"Deutsch";
     Command3.picture = u"flag_de";
     Command2.caption = u"English";
@@ -111,6 +113,10 @@ void HelpWindow::setTitle(Language language) {
     caption = Words{u"Zifferon PRO 5.0 - Hilfe", u"Zifferon PRO 5.0 - Help"}.in(language);
     printhelp.toolTip = Words{u"Kurzanleitung ausdrucken", u"Print Quick Reference"}.in(language);
     Command4.toolTip = Words{u"E-Mail", u"email"}.in(language);
+    Picture1.accessibleName = caption;
+    for (TextField* const line : {&Text6, &Text1, &Text3, &Text8}) {
+        line->accessibleName = Words{u"Über das Programm", u"About the program"}.in(language);
+    }
     printhelp.accessibleName = printhelp.toolTip;
     Command4.accessibleName = Command4.toolTip;
 }

@@ -33,7 +33,7 @@ class HelpWindow : public Window {
     Control Picture1{ControlKind::picture};  // has the focus where nothing else is to have it
     Timer Timer2;                            // keeps the main window out of sight
 
-    // Who asks the program line twice finds the way to the puzzle.
+    // Who asks the program line twice, or with Enter, finds the way to the puzzle.
     void showPuzzleButton() { puzzle1.visible = true; }
 
   private:

@@ -88,6 +88,14 @@ class Control {
         if (character == u'\r' || character == u' ') press();
     }
 
+    // Has Enter and the blank do something, and all other characters nothing.
+    void doWhenConfirmed(std::function<void()> deed) {
+        onKeyPress = [deed = std::move(deed)](char16_t& character) {
+            const char16_t typed = std::exchange(character, u'\0');
+            if (typed == u'\r' || typed == u' ') deed();
+        };
+    }
+
     // Whether Shift and that key select in it; it selects all that it holds.
     virtual bool selectsBy(int /*code*/) const { return false; }
     virtual void selectAll() {}

@@ -47,6 +47,10 @@ Control* Window::find(TextView controlName) const {
     return found == controls_.end() ? nullptr : *found;
 }
 
+bool Window::isTabStop(const Control& control) const {
+    return std::find(tabOrder.begin(), tabOrder.end(), &control) != tabOrder.end();
+}
+
 bool Window::setFocus(Control& control) {
     ++focusWishes_;
     if (!visible || !control.shown() || !control.enabled) return false;

@@ -46,6 +46,7 @@ class Window {
 
     // Where the Tab key goes, in this order; it does nothing where the focus is none of them.
     std::vector<Control*> tabOrder;
+    bool isTabStop(const Control& control) const;
 
     // What the edit keys do here, none of them inside the key road; without onPaste a text is typed as it is.
     std::function<void(TextView)> onPaste;

@@ -25,6 +25,9 @@ Kopf::Kopf(const Language& language) : language_(language) {
     caption = programTitle;
     framed = false;  // a frame would have a close box
     place = {0, 0, 9000, 8000};
+    onActivate = [this] {
+        if (!setFocus(zeile1)) setFocus(Check1);
+    };
     onDismiss = [] {};
     addCaptioned(Label1, u"Label1", {15, 15, 8970, 345},
                  {u" Daten für Briefkopf und Fußzeile", u"Data for letterhead"},

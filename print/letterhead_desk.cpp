@@ -8,6 +8,7 @@ void LetterheadDesk::wire() {
     k.dakill.onClick = [this] { clear(); };
     k.muster.onClick = [this] { fillSample(); };
     k.logo.onMouseDown = [this] { tellOfLogo(); };
+    k.logo.doWhenConfirmed([this] { tellOfLogo(); });
     k.logo.onClick = [this] { k.logo.setTicked(false); };
     for (const Kopf::Look& look : k.looks) {
         look.font.onLostFocus = [&font = look.font] {

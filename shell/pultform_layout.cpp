@@ -141,6 +141,7 @@ std::vector<Row> desktop(Pultform& w) {
          .name = u"nixspez",
          .place = {2205, 5812, 195, 195},
          .style = onKey,
+         .spoken = {u"ohne Aufgabe", u"without a task"},
          .flat = true},
         {.control = w.Command3,
          .name = u"Command3",

@@ -100,6 +100,7 @@ Form1::Form1(Language language) : language_(language) {
     load.multiLine = true;
     load.locked = true;
     load.bare = true;
+    load.accessibleName = label.caption;
     load.takesFocus = true;
     // Alt alone says nothing without the letter that it was pressed for.
     load.onKeyDown = [this](int& code) {

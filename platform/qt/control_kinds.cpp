@@ -35,12 +35,12 @@ class LabelView : public ControlView {
     std::optional<Alignment> alignment_;
 };
 
-// Push buttons and check boxes. The keyboard never goes to them: their access keys take the key road.
+// Push buttons and check boxes. No click gives them the keyboard, and their access keys take the key road.
 class ButtonView : public ControlView {
   public:
     ButtonView(Control& control, QAbstractButton& button, FormView& form)
         : ControlView(control, button, form), button_(button) {
-        button_.setFocusPolicy(Qt::NoFocus);
+        button_.setFocusPolicy(form.window().isTabStop(control) ? Qt::TabFocus : Qt::NoFocus);
         button_.setAutoFillBackground(!control.flat);
         connect(&button_, &QAbstractButton::clicked, this, [this] { this->form().press(this->control()); });
     }
@@ -145,7 +145,8 @@ class FrameView : public ControlView {
 };
 
 // A drawing, sharp at every scale, and read when it is first seen; what the start shows is drawn by the build
-// for the usual scale. Without one the picture is a mere place, and what lies below it is seen.
+// for the usual scale. Without one the picture is a mere place, and what lies below it is seen. With the
+// keyboard it has a line around it.
 class Picture : public QWidget {
   public:
     using QWidget::QWidget;
@@ -164,10 +165,18 @@ class Picture : public QWidget {
         QPainter painter(this);
         if (devicePixelRatioF() == 1 && pixels_.size() == qint64{4} * width() * height()) {
             constexpr auto format = QImage::Format_ARGB32_Premultiplied;
-            return painter.drawImage(0, 0, QImage(pixels_.data(), width(), height(), format));
+            painter.drawImage(0, 0, QImage(pixels_.data(), width(), height(), format));
+        } else {
+            if (!drawing_) drawing_ = std::make_unique<QSvgRenderer>(fileName_);
+            drawing_->render(&painter);
         }
-        if (!drawing_) drawing_ = std::make_unique<QSvgRenderer>(fileName_);
-        drawing_->render(&painter);
+        if (hasFocus()) drawFocus(painter);
+    }
+
+    void drawFocus(QPainter& painter) const {
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.setPen(Qt::white);
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
     }
 
     QString fileName_;

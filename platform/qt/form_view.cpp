@@ -12,7 +12,7 @@
 #include <limits>
 #include <utility>
 
-#include "platform/qt/tape_access.h"
+#include "platform/qt/control_access.h"
 #include "platform/qt/to_front.h"
 
 namespace zifferon {
@@ -76,7 +76,7 @@ FormView::FormView(Window& window, KeyRoad& keys, QWidget* owner)
                   if (!timersHeld_) run(tick);
               }),
       keyEvents_(*this, keys) {
-    offerTapesToScreenReaders();
+    offerControlsToScreenReaders();
     setObjectName(toQString(window.name));
     setWindowFlags(frameOf(window, owner != nullptr));
     setMouseTracking(true);
@@ -150,6 +150,19 @@ void FormView::openMenu(Control& control, QPoint position) {
         menu->addAction(toQString(entry.caption), this, chosen)->setEnabled(entry.enabled);
     }
     menu->popup(position);
+}
+
+Control* FormView::controlOf(const QWidget& widget) const {
+    const auto view = std::find_if(views_.begin(), views_.end(),
+                                   [&](const auto& v) { return v && &v->widget() == &widget; });
+    return view != views_.end() ? &(*view)->control() : nullptr;
+}
+
+void FormView::followFocus(const QWidget& widget) {
+    Control* const control = controlOf(widget);
+    if (control == nullptr || control == window_.focus()) return;
+    if (control->takesFocus || window_.isTabStop(*control)) run([&] { window_.setFocus(*control); });
+    refreshFocus();
 }
 
 bool FormView::event(QEvent* event) {

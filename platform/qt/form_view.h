@@ -64,6 +64,12 @@ class FormView : public QWidget {
     // down are let go: the menu takes the keyboard.
     void openMenu(Control& control, QPoint position);
 
+    // A screen reader has given the keyboard to the widget.
+    void followFocus(const QWidget& widget);
+
+    // What the widget shows; null: it is part of another one.
+    Control* controlOf(const QWidget& widget) const;
+
     Window& window() const { return window_; }
     KeyRoad& keys() const { return keys_; }
 

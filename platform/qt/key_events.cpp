@@ -182,6 +182,10 @@ bool KeyEvents::eventFilter(QObject* receiver, QEvent* event) {
         case QEvent::KeyRelease:
             keyReleased(static_cast<QKeyEvent&>(*event));
             break;
+        case QEvent::FocusIn:
+            if (static_cast<QFocusEvent&>(*event).reason() == Qt::OtherFocusReason)
+                form_.followFocus(*widget);
+            return false;
         case QEvent::InputMethod:
             type(static_cast<QInputMethodEvent&>(*event).commitString());
             break;

@@ -58,14 +58,15 @@ int OwnStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidge
     }
 }
 
-// A button that has the keyboard shows it, however it came to it.
+// A control that has the keyboard shows it, however it came to it.
 void OwnStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                            const QWidget* widget) const {
-    const auto* const pushButton = qstyleoption_cast<const QStyleOptionButton*>(option);
-    if (element != CE_PushButton || pushButton == nullptr || !(pushButton->state & State_HasFocus)) {
+    const auto* const pressable = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const bool shows = element == CE_PushButton || element == CE_CheckBox;
+    if (!shows || pressable == nullptr || !(pressable->state & State_HasFocus)) {
         return QProxyStyle::drawControl(element, option, painter, widget);
     }
-    QStyleOptionButton focused(*pushButton);
+    QStyleOptionButton focused(*pressable);
     focused.state |= State_KeyboardFocusChange;
     QProxyStyle::drawControl(element, &focused, painter, widget);
 }
@@ -73,7 +74,13 @@ void OwnStyle::drawControl(ControlElement element, const QStyleOption* option, Q
 void OwnStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                   QPainter* painter, const QWidget* widget) const {
     if (control == CC_ScrollBar) return drawScrollBar(*option, *painter, widget);
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const auto* const combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (combo == nullptr || !(combo->state & State_HasFocus)) {
+        return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+    QStyleOptionComboBox focused(*combo);
+    focused.state |= State_KeyboardFocusChange;
+    QProxyStyle::drawComplexControl(control, &focused, painter, widget);
 }
 
 // In colours of its own, whatever those of the text beside it.

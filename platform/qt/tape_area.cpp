@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "platform/line_starts.h"
+#include "platform/qt/control_access.h"
 #include "platform/qt/control_view.h"
-#include "platform/qt/tape_access.h"
 
 namespace zifferon {
 

@@ -8,11 +8,9 @@ void TapePage::wire() {
     c.edit.onClick = [this] { open(); };
     c.leave.onClick = [this] { leave(); };
     s.superdruck.onGotFocus = [this] { printCopyFocused(); };
-    // On the desk, on the page, and among its options: what cannot be reached is passed over.
-    p.window.tabOrder = {
-        &s.eingabe, &s.memo[0],   &s.memo[1],   &s.memo[2],  &s.memo[3], &s.memo[4],       &s.superdruck,
-        &c.Check33, &c.savefiles, &c.Speichern, &c.Files,    &c.laden,   &c.killfile,      &c.editordruck,
-        &c.optbtn,  &c.leave,     &c.druckcomb, &c.allprint, &c.cmdkopf, &c.standardprint, &c.back};
+    p.window.tabOrder = {&s.superdruck, &c.Check33,  &c.savefiles,   &c.Speichern,     &c.Files,
+                         &c.laden,      &c.killfile, &c.editordruck, &c.optbtn,        &c.leave,
+                         &c.druckcomb,  &c.allprint, &c.cmdkopf,     &c.standardprint, &c.back};
     for (Control* button : {&c.laden, &c.killfile, &c.Speichern, &c.editordruck, &c.optbtn, &c.leave,
                             &c.cmdkopf, &c.standardprint, &c.back}) {
         button->takesFocus = true;

@@ -51,10 +51,11 @@ class Control {
     const ControlKind kind;
     Text name;
     Place place;
-    Text caption;         // labels, buttons, check boxes and frames; "&" marks the access key
-    Text toolTip;         // empty: none
-    Text accessibleName;  // what a screen reader says where there is no caption
-    Text picture;         // pictures and picture buttons: name of the drawing; empty: none
+    Text caption;            // labels, buttons, check boxes and frames; "&" marks the access key
+    Text toolTip;            // empty: none
+    Text accessibleName;     // what a screen reader says where there is no caption
+    char16_t accessKey = 0;  // Alt and this character give it the keyboard; 0: none but that of the caption
+    Text picture;            // pictures and picture buttons: name of the drawing; empty: none
     bool visible = true;
     bool enabled = true;
     bool flat = false;               // a button that is not drawn

@@ -365,6 +365,7 @@ void addMemoryCells(Pultform& w) {
                 .style = cell,
                 .frame = &w.Frame2,
                 .spoken = {names[i]}});
+        w.state.memo[i].accessKey = names[i].back();
     }
 }
 

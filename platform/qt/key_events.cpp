@@ -317,16 +317,26 @@ void KeyEvents::type(const QString& text) {
     FormView::refreshAll();
 }
 
-// The topmost control that can be reached and has the letter behind the "&" of its caption.
+namespace {
+
+// The one that the control has beside its caption, or the letter behind the "&" in it.
+QChar accessKeyOf(const Control& control) {
+    if (control.accessKey != 0) return control.accessKey;
+    const bool pressable = control.kind == ControlKind::button || control.kind == ControlKind::menu ||
+                           control.kind == ControlKind::checkBox;
+    const std::size_t mark = control.caption.find(u'&');
+    if (!pressable || mark + 1 >= control.caption.size()) return {};
+    return QChar(control.caption[mark + 1]).toLower();
+}
+
+}  // namespace
+
+// The topmost control that can be reached and has that access key.
 Control* KeyEvents::accessControl(const QString& typed) const {
     if (typed.size() != 1) return nullptr;
     const QChar letter = typed.front().toLower();
     const auto answers = [&](const Control* control) {
-        const bool pressable = control->kind == ControlKind::button || control->kind == ControlKind::menu ||
-                               control->kind == ControlKind::checkBox;
-        const std::size_t mark = control->caption.find(u'&');
-        return pressable && mark + 1 < control->caption.size() &&
-               QChar(control->caption[mark + 1]).toLower() == letter && isReachable(form_.window(), *control);
+        return accessKeyOf(*control) == letter && isReachable(form_.window(), *control);
     };
     const auto& controls = form_.window().controls();
     const auto found = std::find_if(controls.rbegin(), controls.rend(), answers);

@@ -89,6 +89,9 @@ TEST_F(WindowTest, AccessKeysPress) {
     hands.strokeWith(alt, {letterR, letterN});
     EXPECT_SOON(state().checkrnd.ticked() && state().Checksound.ticked());
     EXPECT_EQ(entry(), "");
+    hands.strokeWith(alt, {digit2});
+    hands.stroke({keypad5, keypadEnter});
+    EXPECT_SOON(state().memo[1].is(u"5") && program.pultform.focus() == &state().eingabe);
     view.run(page().edit.onClick);
     hands.strokeWith(alt,
                      {letterN});  // what lies covered is out of reach, behind a button that finds no file

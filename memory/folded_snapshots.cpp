@@ -87,7 +87,8 @@ void FoldedSnapshots::store(std::size_t part) {
     const std::string_view bytes = parts_[part].bytes;
     try {
         files_.write(fileOf(part), std::span(&bytes, 1));
-        parts_[part] = {{}, digestOf(bytes)};
+        parts_[part].digest = digestOf(bytes);
+        std::string().swap(parts_[part].bytes);  // a mere assignment would keep the room
     } catch (const FileFailure&) {
         removeFile(part);
     }

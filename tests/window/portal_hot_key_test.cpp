@@ -82,6 +82,8 @@ class FakePortal : public QDBusVirtualObject {
             list.beginArray();
             list.beginStructure();
             list >> shortcut >> properties;
+            list.endStructure();
+            list.endArray();
             request(message, {});
         } else if (call == session + " Close ") {
             sessions.removeAll(message.path());

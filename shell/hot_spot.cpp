@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/key.h"
+
 namespace zifferon {
 
 void HotSpot::wire() {
@@ -14,6 +16,24 @@ void HotSpot::wire() {
     window_.Image1.onMouseDown = [this] { pressed(); };
     window_.Image1.onMouseUp = [this] { released(); };
     window_.timersecret.onTick = [this] { ++holdSeconds_; };
+    window_.Image1.accessKey = u'b';
+    window_.Image1.onKeyDown = [this](int& code) { keyDown(code); };
+    window_.Image1.onKeyUp = [this](int code) {
+        if (code != keyCode::space) return;
+        window_.state.calls->focusEntry();
+        released();
+    };
+}
+
+// Without a mouse the blank is its button, and Enter the double click. Any other key leads back.
+void HotSpot::keyDown(int code) {
+    if (code == keyCode::alt) return;
+    if (code == keyCode::enter) return window_.Image1.onDoubleClick();
+    if (code != keyCode::space) {
+        window_.state.calls->beep();  // the key itself is lost
+        return window_.state.calls->focusEntry();
+    }
+    if (window_.timersecret.interval() == 0) pressed();  // and not held already
 }
 
 void HotSpot::pressed() {

@@ -1,5 +1,5 @@
 // The birds on the main window's picture: a double click lets them speak, and who holds the mouse on them
-// long enough finds the riddle.
+// long enough finds the riddle. Alt and B bring the keyboard there.
 #pragma once
 
 #include "adventure/secret_form.h"
@@ -17,6 +17,7 @@ class HotSpot {
     int holdSeconds() const { return holdSeconds_; }
 
   private:
+    void keyDown(int code);
     void pressed();
     void released();
 

@@ -161,19 +161,22 @@ class Picture : public QWidget {
 
   private:
     void paintEvent(QPaintEvent*) override {
-        if (fileName_.isEmpty()) return;
+        if (!fileName_.isEmpty()) paintDrawing();
+        if (hasFocus()) paintFocus();
+    }
+
+    void paintDrawing() {
         QPainter painter(this);
         if (devicePixelRatioF() == 1 && pixels_.size() == qint64{4} * width() * height()) {
             constexpr auto format = QImage::Format_ARGB32_Premultiplied;
-            painter.drawImage(0, 0, QImage(pixels_.data(), width(), height(), format));
-        } else {
-            if (!drawing_) drawing_ = std::make_unique<QSvgRenderer>(fileName_);
-            drawing_->render(&painter);
+            return painter.drawImage(0, 0, QImage(pixels_.data(), width(), height(), format));
         }
-        if (hasFocus()) drawFocus(painter);
+        if (!drawing_) drawing_ = std::make_unique<QSvgRenderer>(fileName_);
+        drawing_->render(&painter);
     }
 
-    void drawFocus(QPainter& painter) const {
+    void paintFocus() {
+        QPainter painter(this);
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
         painter.setPen(Qt::white);
         painter.drawRect(rect().adjusted(1, 1, -2, -2));

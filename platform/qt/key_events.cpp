@@ -223,7 +223,10 @@ void KeyEvents::keyPressed(const QKeyEvent& event) {
     if (edits(event)) return FormView::refreshAll();
     const auto key = keyOf(event);
     if (!key && commandModifiers(event) == Qt::AltModifier) {
-        if (Control* const control = accessControl(event.text())) form_.press(*control);
+        if (Control* const control = accessControl(event.text())) {
+            control->accessKey != 0 ? form_.run([&] { form_.window().setFocus(*control); })
+                                    : form_.press(*control);
+        }
     }
     if (!key) return;
     const auto held = held_.find(scanCode);

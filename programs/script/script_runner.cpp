@@ -395,7 +395,8 @@ void ScriptRunner::type(TextView text) {
 void ScriptRunner::select(const std::string& command, ScriptLine& line) {
     Control& target = control(line.word());
     if (command == "focus") {
-        if (target.takesFocus) keys().run([&] { window().setFocus(target); });
+        const bool canHaveIt = target.takesFocus || target.accessKey != 0;
+        if (canHaveIt) keys().run([&] { window().setFocus(target); });
         return;
     }
     auto* const field = dynamic_cast<TextField*>(&target);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <algorithm>
@@ -130,6 +131,7 @@ TEST_F(Faults, leaveTheCalculationAndWholeFiles) {
 
 // Types a number and stores it, and the next one, for ever; tells each number when it is stored.
 [[noreturn]] void storeNumbers(int from, int pipe) {
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);  // and not longer than the test
     std::string lines = "start\nwait 3000\n";
     for (int i = from; i < from + 10000; ++i) {
         lines += "press C\ntype " + std::to_string(i) + "+\nclick Save\n";

@@ -117,14 +117,13 @@ class Panel : public QWidget {
     static void paintOutline(QPainter& painter, const QRect& where, const QColor& colour) {
         constexpr int corner = 2;
         const QRect inner = where.adjusted(corner, corner, -corner, -corner);
-        painter.setPen(colour);
-        painter.drawLine(inner.left(), where.top(), inner.right(), where.top());
-        painter.drawLine(inner.left(), where.bottom(), inner.right(), where.bottom());
-        painter.drawLine(where.left(), inner.top(), where.left(), inner.bottom());
-        painter.drawLine(where.right(), inner.top(), where.right(), inner.bottom());
+        painter.fillRect(inner.left(), where.top(), inner.width(), 1, colour);
+        painter.fillRect(inner.left(), where.bottom(), inner.width(), 1, colour);
+        painter.fillRect(where.left(), inner.top(), 1, inner.height(), colour);
+        painter.fillRect(where.right(), inner.top(), 1, inner.height(), colour);
         const QPoint corners[] = {where.topLeft() + QPoint(1, 1), where.topRight() + QPoint(-1, 1),
                                   where.bottomLeft() + QPoint(1, -1), where.bottomRight() + QPoint(-1, -1)};
-        painter.drawPoints(corners, 4);
+        for (const QPoint point : corners) painter.fillRect(QRect(point, QSize(1, 1)), colour);
     }
 
     QString caption_;

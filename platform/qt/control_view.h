@@ -61,7 +61,7 @@ class ControlView : public QObject {
     std::optional<Place> place_;
     std::optional<Font> font_;
     std::optional<Colour> foreColour_, backColour_;
-    std::optional<Text> toolTip_, accessibleName_;
+    std::optional<Text> toolTip_ = Text(), accessibleName_ = Text();  // a new widget has neither
     std::optional<bool> enabled_, visible_;
 };
 

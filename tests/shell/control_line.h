@@ -5,7 +5,7 @@
 #include <sstream>
 #include <string>
 
-#include "platform/control.h"
+#include "platform/text_field.h"
 
 namespace zifferon {
 
@@ -29,6 +29,8 @@ inline std::string lineOf(const Control& control) {
     if (control.alignment != Alignment::left) {
         line << (control.alignment == Alignment::right ? " right" : " centre");
     }
+    const auto* const field = dynamic_cast<const TextField*>(&control);
+    if (field != nullptr && field->locked) line << " locked";
     if (control.frame != nullptr) line << " in " << toUtf8(control.frame->name);
     if (!control.picture.empty()) line << " picture " << toUtf8(control.picture);
     return line.str();

@@ -20,7 +20,7 @@ TEST(LanguageWindow, isUsedByTheKeyboard) {
         {english, u" ", english},
         {german, u"{TAB}{ENTER}", english},
         {english, u"{LEFT} ", german},
-        {german, u"{TAB}{LEFT}{ENTER}", german},
+        {german, u"{TAB}{DOWN}{ENTER}", german},
         {german, u"{F3}{ENTER}", german},
         {german, u"e", english},
         {english, u"D", german},

@@ -11,6 +11,7 @@
 #include "core/number_format.h"
 #include "platform/mouse.h"
 #include "programs/script/script_names.h"
+#include "shell/pasted_text.h"
 #include "shell/required_files.h"
 #include "shell/send_keys.h"
 #include "tests/shell/control_line.h"
@@ -28,11 +29,20 @@ const std::vector<TextView> sentences = parted(
     u"#,##{+}0{ENTER} |#,##v{+}0{ENTER} ",
     u"|");
 const std::vector<TextView> commands = parted(
-    u"{F2}|{F6}|{F7}|{F8}|{F10}|m{F3}|m{F4}|{F9}|{TAB}|{F5}|{UP}|{DOWN}|{F1}|{F11}|{PGDN}|{RIGHT}", u"|");
+    u"{F2}|{F6}|{F7}|{F8}|{F10}|m{F3}|m{F4}|{F9}|{TAB}|{F5}|{UP}|{DOWN}|{F1}|{F11}|{F11}|{F11}|{PGDN}|{"
+    u"RIGHT}",
+    u"|");
 const std::vector<TextView> pasted = parted(
     u"12,50 EUR|5\n6\n-7|8/0*3|1.234,50\t3|(3)|1 234,5|Summe 5 + 6 =|3-\n4+|12.03.2026|1,5 2,5|1'000.50|"
     u"200\n250|10-|Datum|7*2",
     u"|");
+
+// What pasted texts are made of.
+const std::vector<TextView> scraps = parted(
+    u"1¦5¦12¦31¦03¦007¦123¦123¦2026¦1900¦234,50¦1.234¦12.03¦,¦.¦,¦.¦'¦:¦;¦ ¦ ¦ ¦ "
+    u"¦-¦-¦–¦—¦+¦*¦/¦(¦)¦(¦)¦=¦%¦&¦\n¦\t¦x¦"
+    u"€¦$¦EUR¦zł¦AUD¦CZK¦Uhr¦AM¦Nr¦KTO¦ZEIT¦MÄRZ¦mai¦millionen¦thousand¦\u00A0¦\u0662¦\u2212¦×¦’¦\u00AD¦«",
+    u"¦");
 
 // Writes without waiting for the disk, by the clock of the walk.
 class QuickDisk : public PosixFiles {
@@ -71,6 +81,7 @@ class Walk : HeadlessStage {
         story += "START ";
         untilTheEnd([this] { startAnew(); });
         digestFolder();
+        for (int i = 0; i < 100; ++i) readText();
         return digest_;
     }
 
@@ -97,9 +108,12 @@ class Walk : HeadlessStage {
         if (seed_ % 5 == 1) s.formatMode = 2;
         applyFormatMode(s);
         program_->beginFresh();
+        if (seed_ % 3 == 2) type(u">>>");  // rounded to 0,05
+        s.checkrnd.setTicked(seed_ % 7 == 2);
         if (seed_ % 4 == 3) {  // on the page, with a stored calculation
             program_->keys.run(program_->pultform.page.edit.onClick);
             type(u"a{ENTER}");
+            if (seed_ % 8 == 7) program_->pultform.setFocus(s.superdruck);
         }
         for (int i = 0; i < 120; ++i) {
             step();
@@ -130,6 +144,7 @@ class Walk : HeadlessStage {
         }
         headless_.queueAnswer(below(2) == 0 ? BoxAnswer::german : BoxAnswer::english);
         program_->keys.run([this] { program_->start(); });
+        if (below(3) == 0) type(u"{RIGHT}");
         for (int i = 0; i < 10; ++i) step();
     }
 
@@ -142,6 +157,16 @@ class Walk : HeadlessStage {
         std::string text;
         for (unsigned left = below(8); left > 0; --left) text += fromHex(anyOf(pieces));
         return text;
+    }
+
+    // What is found in a text that could be pasted.
+    void readText() {
+        Text text;
+        for (unsigned left = 1 + below(7); left > 0; --left) text += anyOf(scraps);
+        const auto [figures, leftOut] = figuresOf(tell(text), below(2) == 0 ? commaStyle : pointStyle);
+        for (const PastedFigure& figure : figures)
+            digest((figure.negative ? "-" : " ") + toUtf8(figure.operation + figure.digits));
+        digest(leftOut ? "!" : "");
     }
 
     unsigned below(std::size_t limit) { return static_cast<unsigned>(random_() % limit); }
@@ -212,7 +237,12 @@ class Walk : HeadlessStage {
 
     void type(Text keys) {
         for (char16_t& unit : keys) unit = unit == u'#' ? static_cast<char16_t>(u'0' + below(10)) : unit;
-        for (const Key key : keysOfNotation(tell(keys))) headless_.inUse().keys->stroke(key);
+        for (const Key key : keysOfNotation(tell(keys))) {
+            KeyRoad& road = *headless_.inUse().keys;
+            road.keyDown(key);
+            digest(std::to_string(program_->pultform.state.eingabe.foreColour.red));
+            road.keyUp(key);
+        }
     }
 
     void edit(Window& window) {

@@ -21,6 +21,7 @@ TEST(TaggedValue, hasTheBytesOfItsType) {
     for (const auto& [value, bytes] : {std::pair(CalcValue(), "00 00"),
                                        {-2, "02 00 FE FF"},
                                        {70000, "03 00 70 11 01 00"},
+                                       {-70000, "03 00 90 EE FE FF"},
                                        {2.5, "05 00 00 00 00 00 00 00 04 40"},
                                        {u"", "08 00 00 00"},
                                        {u"«÷»ß€\r\nΩ", "08 00 08 00 AB F7 BB DF 80 0D 0A 3F"},

@@ -164,8 +164,10 @@ class Walk : HeadlessStage {
         Text text;
         for (unsigned left = 1 + below(7); left > 0; --left) text += anyOf(scraps);
         const auto [figures, leftOut] = figuresOf(tell(text), below(2) == 0 ? commaStyle : pointStyle);
-        for (const PastedFigure& figure : figures)
-            digest((figure.negative ? "-" : " ") + toUtf8(figure.operation + figure.digits));
+        for (const PastedFigure& figure : figures) {
+            digest(figure.negative ? "-" : " ");
+            digest(toUtf8(figure.operation + figure.digits));
+        }
         digest(leftOut ? "!" : "");
     }
 

@@ -39,8 +39,8 @@ const std::vector<TextView> pasted = parted(
 
 // What pasted texts are made of.
 const std::vector<TextView> scraps = parted(
-    u"1¦5¦12¦31¦03¦007¦123¦123¦2026¦1900¦234,50¦1.234¦12.03¦,¦.¦,¦.¦'¦:¦;¦ ¦ ¦ ¦ "
-    u"¦-¦-¦–¦—¦+¦*¦/¦(¦)¦(¦)¦=¦%¦&¦\n¦\t¦x¦"
+    u"1¦5¦12¦31¦2026¦,34,567¦03¦007¦123¦123¦2026¦1900¦234,50¦1.234¦12.03¦,¦.¦,¦.¦'¦:¦;¦ ¦ ¦ ¦ "
+    u"¦-¦-¦/¦/¦–¦—¦+¦*¦/¦(¦)¦(¦)¦=¦%¦&¦\n¦\t¦x¦"
     u"€¦$¦EUR¦zł¦AUD¦CZK¦Uhr¦AM¦Nr¦KTO¦ZEIT¦MÄRZ¦mai¦millionen¦thousand¦\u00A0¦\u0662¦\u2212¦×¦’¦\u00AD¦«",
     u"¦");
 
@@ -70,7 +70,9 @@ class Walk : HeadlessStage {
         headless_.onUnansweredQuestion = [this] { digestState(); };  // what it covers
         headless_.whileModal = [this](const Window& window) {
             for (int i = 0; i < 20 && window.visible; ++i) step();
-            headless_.inUse().window->visible = false;
+            const HeadlessMachine::InUse in = headless_.inUse();
+            if (in.window->onDismiss) in.window->onDismiss();
+            in.window->visible = false;
         };
     }
 
@@ -146,6 +148,7 @@ class Walk : HeadlessStage {
         program_->keys.run([this] { program_->start(); });
         if (below(3) == 0) type(u"{RIGHT}");
         for (int i = 0; i < 10; ++i) step();
+        if (below(2) == 0) program_->keys.run(program_->pultform.find(u"cmdexit")->onClick);
     }
 
     // Of what leads further than any bytes: singles, type words and lengths.
@@ -191,8 +194,8 @@ class Walk : HeadlessStage {
               "insertmode.ticked", "raster0.visible"}) {
             digest(*valueOf(name, *program_, headless_));
         }
-        const Colour colour = program_->pultform.state.superdruck.foreColour;
-        digest(log_.str() + std::to_string(colour.red));
+        const CalculatorState& s = program_->pultform.state;
+        digest(log_.str() + lineOf(s.superdruck) + lineOf(s.eingabe) + lineOf(s.Texterror));
         log_.str("");
     }
 
@@ -242,7 +245,7 @@ class Walk : HeadlessStage {
         for (const Key key : keysOfNotation(tell(keys))) {
             KeyRoad& road = *headless_.inUse().keys;
             road.keyDown(key);
-            digest(std::to_string(program_->pultform.state.eingabe.foreColour.red));
+            digestState();
             road.keyUp(key);
         }
     }

@@ -48,6 +48,9 @@ TEST(Decimal, takesDigitsAtTheEdges) {
     EXPECT_EQ(quotient("3", "-0.0000000000000000000000000004"), "-7500000000000000000000000000");
     EXPECT_EQ(quotient("20000000000000000000000000001", "2"), "10000000000000000000000000000");
     EXPECT_EQ(quotient("20000000000000000000000000003", "2"), "10000000000000000000000000002");
+    // Not below 2^127 when both have nineteen decimals.
+    const Decimal sum = decimal("18000000000000000000") + decimal("0.0000000000000000001");
+    EXPECT_EQ(toUtf8(scaledText(sum)), "18000000000000000000.000000000");
 
     const Decimal parts = Decimal::fromParts(1, 2, 3, 28, true);
     EXPECT_TRUE(parts.low() == 1 && parts.mid() == 2 && parts.high() == 3);

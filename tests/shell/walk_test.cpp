@@ -39,7 +39,7 @@ const std::vector<TextView> pasted = parted(
 
 // What pasted texts are made of.
 const std::vector<TextView> scraps = parted(
-    u"1¦5¦12¦31¦2026¦,34,567¦03¦007¦123¦123¦2026¦1900¦234,50¦1.234¦12.03¦,¦.¦,¦.¦'¦:¦;¦ ¦ ¦ ¦ "
+    u"1¦5¦12¦31¦2026¦1 234¦,34,567¦03¦007¦123¦123¦2026¦1900¦234,50¦1.234¦12.03¦,¦.¦,¦.¦'¦:¦;¦ ¦ ¦ ¦ "
     u"¦-¦-¦/¦/¦–¦—¦+¦*¦/¦(¦)¦(¦)¦=¦%¦&¦\n¦\t¦x¦"
     u"€¦$¦EUR¦zł¦AUD¦CZK¦Uhr¦AM¦Nr¦KTO¦ZEIT¦MÄRZ¦mai¦millionen¦thousand¦\u00A0¦\u0662¦\u2212¦×¦’¦\u00AD¦«",
     u"¦");

@@ -18,6 +18,7 @@ void HotSpot::wire() {
     window_.timersecret.onTick = [this] { ++holdSeconds_; };
     window_.Image1.accessKey = u'b';
     window_.Image1.onKeyDown = [this](int& code) { keyDown(code); };
+    window_.Image1.onLostFocus = [this] { window_.timersecret.stop(); };
     window_.Image1.onKeyUp = [this](int code) {
         if (code != keyCode::space) return;
         window_.state.calls->focusEntry();

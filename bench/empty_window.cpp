@@ -8,7 +8,7 @@
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    FirstWindow first(argv[1], QStringLiteral("empty"));
+    FirstWindow first(argv[1], {QStringLiteral("empty")});
     QWidget window;
     window.setWindowTitle(QStringLiteral("empty"));
     QVBoxLayout layout(&window);

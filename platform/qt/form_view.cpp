@@ -97,6 +97,13 @@ void FormView::prepare() {
     refreshFocus();
 }
 
+// Drawn once, it has its fonts and glyphs.
+void FormView::getReady() {
+    if (std::exchange(ready_, true) || windowHandle() != nullptr) return;
+    prepare();
+    grab();
+}
+
 void FormView::refresh() {
     if (window_.visible) prepare();
     timers_.refresh();

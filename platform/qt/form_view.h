@@ -27,8 +27,8 @@ class FormView : public QWidget {
     // costs little.
     void refresh();
 
-    // Makes ready what a hidden window will show.
-    void prepare();
+    // Once, of a window that has not been shown yet: all that the screen does not see of its coming is done.
+    void getReady();
 
     // Once it is shown it stays on the screen, also when its window is hidden, until it is destroyed or
     // another one has come: then it leaves when that one has the keyboard or, if nothing has been typed into
@@ -82,6 +82,7 @@ class FormView : public QWidget {
     void paintEvent(QPaintEvent* event) override;
     void activationDue();
     void becomeActive();
+    void prepare();
     void refreshFrame();
     void refreshPlace();
     void refreshOnTop();
@@ -108,6 +109,7 @@ class FormView : public QWidget {
     bool alwaysOnTop_ = false;
     bool minimised_ = false;
     bool stays_ = false;
+    bool ready_ = false;
 };
 
 }  // namespace zifferon

@@ -3,13 +3,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDateTime>
-#include <QElapsedTimer>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
 #include <QSvgRenderer>
-#include <QThread>
+#include <QTimer>
 #include <QtMath>
 #include <cstdlib>
 
@@ -107,14 +106,21 @@ void QtSound::beep() { QApplication::beep(); }
 // No destructor runs: handlers are on their way, and what they hold is nobody's any more.
 void QtProcess::end() { std::_Exit(EXIT_SUCCESS); }
 
+// Pauses in a row keep step: what one is late is not added to the next. While the user waits, windows that
+// come later get ready.
 void QtProcess::pause(int milliseconds) {
+    using namespace std::chrono;
+    constexpr auto inARow = 5ms;
+    const auto now = steady_clock::now();
+    if (now - pauseEnd_ > inARow) pauseEnd_ = now;
+    pauseEnd_ += std::chrono::milliseconds(milliseconds);
+    QTimer alarm;
+    alarm.setTimerType(Qt::PreciseTimer);
+    alarm.setSingleShot(true);
+    alarm.start(floor<std::chrono::milliseconds>(pauseEnd_ - now));
     FormView::refreshAll();
-    QElapsedTimer clock;
-    clock.start();
-    while (clock.elapsed() < milliseconds) {
-        QCoreApplication::processEvents();
-        QThread::msleep(2);
-    }
+    for (FormView* form : FormView::all()) form->getReady();
+    while (alarm.isActive()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 }  // namespace zifferon

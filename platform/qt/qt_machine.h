@@ -1,6 +1,8 @@
 // What the program asks of a machine, on Qt.
 #pragma once
 
+#include <chrono>
+
 #include "platform/machine.h"
 #include "platform/posix_files.h"
 #include "platform/posix_system.h"
@@ -42,6 +44,9 @@ class QtProcess : public Process {
   public:
     [[noreturn]] void end() override;
     void pause(int milliseconds) override;
+
+  private:
+    std::chrono::steady_clock::time_point pauseEnd_;
 };
 
 // The current folder becomes the program folder.

@@ -81,8 +81,6 @@ void QtWindows::runUntilHidden(FormView& view) {
     window.visible = true;
     view.refresh();
     QCoreApplication::processEvents();
-    // While the screen puts the window up, those that come later get ready.
-    for (FormView* form : FormView::all()) form->prepare();
     while (window.visible) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 

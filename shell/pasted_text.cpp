@@ -85,14 +85,14 @@ class Line {
 
     void findDates() {
         date_.assign(pieces_.size(), false);
-        for (std::size_t i = 1; i + 2 < pieces_.size(); ++i) {
+        for (std::size_t i = 1; i + 1 < pieces_.size(); ++i) {
             const bool parted =
                 oneOf(i + 1, {Kind::sign, Kind::times}) && !is(i + 1, u"+") && !is(i + 1, u"*");
             if (!parted || !bare(i) || !bare(i + 2)) continue;
             const bool years = isYear(i) && isYear(i + 2);
             const bool monthAndYear = isDayOrMonth(i) && datePart(i) <= 12 && isYear(i + 2);
             if (years || monthAndYear) date_[i] = date_[i + 2] = true;
-            if (i + 4 >= pieces_.size() || !is(i + 3, text(i + 1)) || !bare(i + 4)) continue;
+            if (!is(i + 3, text(i + 1)) || !bare(i + 4)) continue;
             const bool yearFirst = isYear(i) && isDayOrMonth(i + 2) && isDayOrMonth(i + 4);
             const bool yearLast = isDayOrMonth(i) && isDayOrMonth(i + 2) &&
                                   std::min(datePart(i), datePart(i + 2)) <= 12 &&

@@ -121,8 +121,8 @@ StoredSizes readStoredSizes(Files& files) {
     NumberReader numbers(content.view());
     StoredSizes sizes;
     sizes.active = numbers.single();
-    sizes.width = numbers.twips().value_or(0);
-    sizes.height = numbers.twips().value_or(0);
+    sizes.width = numbers.twips().value_or(sizes.width);
+    sizes.height = numbers.twips().value_or(sizes.height);
     return holdsTheDesk(sizes) ? sizes : StoredSizes();
 }
 

@@ -21,6 +21,8 @@
 namespace zifferon {
 namespace {
 
+constexpr unsigned walks = 160;
+
 // A # is any digit.
 const std::vector<TextView> sentences = parted(
     u"1|2,5|100|0,05|12345,678|999999|{+}|-|*|/|{ENTER}|{ENTER}|{ENTER}{ENTER}|c|p|{%}|d|w| |v|t|m1|m2|r1|r2|"
@@ -37,8 +39,11 @@ const std::vector<TextView> pasted = parted(
     u"200\n250|10-|Datum|7*2",
     u"|");
 
-// What pasted texts are made of.
+// What pasted texts are made of. A ~ is any sign that may part a date.
 const std::vector<TextView> scraps = parted(
+    u"#~#~20##¦##~##~20##¦20##~##~##¦19##~1#~3#¦###~##~##¦1#~1#~##¦#~20##¦1#~20##¦20##~20##¦2100~1#~1#¦"
+    u"1899~2000¦1899~#~#¦##.1#¦#.##¦#.###,##¦#,###.##¦# ###,##¦##,##,###.##¦#'###'###¦#.##.###¦0#¦#,-¦#,--¦"
+    u"#,---¦####¦1234567890123456789012345¦#### ###¦## ###¦0## ###¦september #¦##. märz¦Nr. #¦#:##¦£¦¥¦...¦…¦"
     u"1¦5¦12¦31¦2026¦1 234¦,34,567¦03¦007¦123¦123¦2026¦1900¦234,50¦1.234¦12.03¦,¦.¦,¦.¦'¦:¦;¦ ¦ ¦ ¦ "
     u"¦-¦-¦/¦/¦–¦—¦+¦*¦/¦(¦)¦(¦)¦=¦%¦&¦\n¦\t¦x¦"
     u"€¦$¦EUR¦zł¦AUD¦CZK¦Uhr¦AM¦Nr¦KTO¦ZEIT¦MÄRZ¦mai¦millionen¦thousand¦\u00A0¦\u0662¦\u2212¦×¦’¦\u00AD¦«",
@@ -72,6 +77,7 @@ class Walk : HeadlessStage {
             for (int i = 0; i < 20 && window.visible; ++i) step();
             const HeadlessMachine::InUse in = headless_.inUse();
             if (in.window->onDismiss) in.window->onDismiss();
+            digest(in.window->visible ? "stays" : "goes");
             in.window->visible = false;
         };
     }
@@ -83,7 +89,13 @@ class Walk : HeadlessStage {
         story += "START ";
         untilTheEnd([this] { startAnew(); });
         digestFolder();
-        for (int i = 0; i < 100; ++i) readText();
+        constexpr unsigned signs = 0x10000 / walks + 1;  // of all there are
+        for (unsigned i = 0; i < signs; ++i) {
+            readText(scrapsOfText());
+            const auto sign = static_cast<char16_t>(signs * seed_ + i);
+            readText(
+                {u'5', sign, u'7', u'\n', sign, u'5', u'\n', u'x', sign, u'5', u',', u'5', u' ', sign, u'6'});
+        }
         return digest_;
     }
 
@@ -132,6 +144,7 @@ class Walk : HeadlessStage {
             "language.dat",  "decpoint.dat", "format.dat",  "winstate.dat", "gui1.dat",
             "gui2.dat",      "style.dat",    "ntcheck.zfr", "wpcheck.zfr",  "visible.zfr",
             "quicksave.zfr", "setup.zfr",    "printer.zfr"};
+        static const std::vector<int> sizes = {5699, 5700, 7499, 7500, 8100, 9000, 30000, 30001};
         for (const char* const name : {"ntcheck.zfr", "language.dat"}) {
             if (below(4) > 0) folder_.put(name, fromHex("00 00 80 3F"));  // no first run, English
         }
@@ -144,6 +157,14 @@ class Walk : HeadlessStage {
             const std::string& name = anyOf(settings);
             folder_.put(name, rubbish());
         }
+        if (below(2) == 0) {
+            const int width = anyOf(sizes), height = anyOf(sizes);
+            writeStoredSizes(disk_, {.active = 1, .width = width, .height = height});
+        }
+        if (below(2) == 0)
+            writeStartOptions(
+                disk_,
+                {.position = {}, .windowMode = static_cast<int>(below(3)), .minimised = below(3) == 0});
         headless_.queueAnswer(below(2) == 0 ? BoxAnswer::german : BoxAnswer::english);
         program_->keys.run([this] { program_->start(); });
         if (below(3) == 0) type(u"{RIGHT}");
@@ -162,16 +183,28 @@ class Walk : HeadlessStage {
         return text;
     }
 
-    // What is found in a text that could be pasted.
-    void readText() {
+    Text scrapsOfText() {
         Text text;
         for (unsigned left = 1 + below(7); left > 0; --left) text += anyOf(scraps);
+        return filled(text);
+    }
+
+    // What is found in a text that could be pasted.
+    void readText(const Text& text) {
         const auto [figures, leftOut] = figuresOf(tell(text), below(2) == 0 ? commaStyle : pointStyle);
         for (const PastedFigure& figure : figures) {
             digest(figure.negative ? "-" : " ");
             digest(toUtf8(figure.operation + figure.digits));
         }
         digest(leftOut ? "!" : "");
+    }
+
+    Text filled(Text text) {
+        for (char16_t& unit : text) {
+            if (unit == u'#') unit = static_cast<char16_t>(u'0' + below(10));
+            if (unit == u'~') unit = TextView(u"--//–*")[below(6)];
+        }
+        return text;
     }
 
     unsigned below(std::size_t limit) { return static_cast<unsigned>(random_() % limit); }
@@ -232,6 +265,7 @@ class Walk : HeadlessStage {
         if (kind == 16) return headless_.wait(below(1500));
         if (kind == 17 && in.window->onPaste) return in.window->onPaste(tell(anyOf(pasted)));
         if (kind == 18) return edit(*in.window);
+        if (kind == 19 && below(4) == 0) return in.keys->run(headless_.onHotKey);
         click(*in.window, *in.keys);
     }
 
@@ -240,9 +274,8 @@ class Walk : HeadlessStage {
         return what;
     }
 
-    void type(Text keys) {
-        for (char16_t& unit : keys) unit = unit == u'#' ? static_cast<char16_t>(u'0' + below(10)) : unit;
-        for (const Key key : keysOfNotation(tell(keys))) {
+    void type(const Text& keys) {
+        for (const Key key : keysOfNotation(tell(filled(keys)))) {
             KeyRoad& road = *headless_.inUse().keys;
             road.keyDown(key);
             digestState();
@@ -294,7 +327,6 @@ class Walk : HeadlessStage {
 };
 
 TEST(Walks, goThroughTheSameStates) {
-    constexpr unsigned walks = 160;
     ::setenv("TZ", "UTC", 1);  // a preview shows when its file was written
     ::tzset();
     std::ifstream file(ZIFFERON_TESTS_DIR "/shell/walks.out");

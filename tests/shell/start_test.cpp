@@ -31,6 +31,8 @@ TEST(LanguageWindow, isUsedByTheKeyboard) {
         window.visible = true;
         window.onActivate();
         for (const Key key : keysOfNotation(typed)) keys.stroke(key);
+        window.onDismiss();
+        EXPECT_FALSE(window.visible);
         EXPECT_EQ(window.choice(), choice) << toUtf8(typed);
     }
 }

@@ -55,17 +55,6 @@ TEST_F(SettingsTest, startOptionsAreFourTaggedItems) {
     EXPECT_TRUE(readStartOptions(files).position);
 }
 
-TEST_F(SettingsTest, sizesAndTheTopPlaceAreIntegers) {
-    EXPECT_EQ(readStoredSizes(files).width, 0);
-    writeStoredSizes(files, {.active = 0, .width = 8205, .height = 8085});
-    EXPECT_EQ(toHex(folder.bytes("style.dat")), "00 00 00 00 02 00 0D 20 02 00 95 1F");
-    EXPECT_EQ(readStoredSizes(files).height, 8085);
-    EXPECT_FALSE(readAlwaysOnTop(files));
-    writeAlwaysOnTop(files, true);
-    EXPECT_EQ(toHex(folder.bytes("visible.zfr")), "02 00 01 00");
-    EXPECT_TRUE(readAlwaysOnTop(files));
-}
-
 TEST_F(SettingsTest, thePrinterIsALineOfText) {
     EXPECT_EQ(readPrinterName(files), std::nullopt);
     EXPECT_FALSE(folder.has("printer.zfr"));

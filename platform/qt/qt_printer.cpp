@@ -129,7 +129,7 @@ void QtPrinter::askForPrinters(const std::function<void()>& found) {
     QProcessEnvironment english = QProcessEnvironment::systemEnvironment();
     english.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
     command->setProcessEnvironment(english);
-    QObject::connect(command, &QProcess::finished, [this, command, found] {
+    QObject::connect(command, &QProcess::finished, &alive_, [this, command, found] {
         std::vector<Text> names;
         Text current;
         for (const QByteArray& line : command->readAllStandardOutput().split('\n')) {

@@ -265,7 +265,7 @@ class Walk : HeadlessStage {
         if (kind == 16) return headless_.wait(below(1500));
         if (kind == 17 && in.window->onPaste) return in.window->onPaste(tell(anyOf(pasted)));
         if (kind == 18) return edit(*in.window);
-        if (kind == 19 && below(4) == 0) return in.keys->run(headless_.onHotKey);
+        if (kind == 19 && !headless_.modalOpen()) return in.keys->run(headless_.onHotKey);
         click(*in.window, *in.keys);
     }
 

@@ -8,6 +8,7 @@
 #include "core/number_format.h"
 #include "platform/mouse.h"
 #include "programs/script/decimal_command.h"
+#include "programs/script/event_pattern.h"
 #include "programs/script/script_keys.h"
 #include "programs/script/script_names.h"
 #include "storage/settings_files.h"
@@ -438,23 +439,6 @@ void ScriptRunner::expect(ScriptLine& line) {
 namespace {
 
 bool isOfWindow(const std::string& event) { return event.starts_with("window "); }
-
-// Whether the event is the line, in which a * stands for any text. What stands between two of them is taken
-// where it comes first.
-bool matches(std::string_view event, std::string_view line) {
-    const std::size_t first = line.find('*');
-    if (first == std::string_view::npos) return event == line;
-    if (!event.starts_with(line.substr(0, first))) return false;
-    event.remove_prefix(first);
-    line.remove_prefix(first + 1);
-    for (std::size_t star; (star = line.find('*')) != std::string_view::npos;) {
-        const std::size_t found = event.find(line.substr(0, star));
-        if (found == std::string_view::npos) return false;
-        event.remove_prefix(found + star);
-        line.remove_prefix(star + 1);
-    }
-    return event.ends_with(line);
-}
 
 }  // namespace
 

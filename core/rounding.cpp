@@ -80,8 +80,6 @@ void roundEntryIntoOperand(CalculatorState& s) {
 }
 
 void showRoundingError(CalculatorState& s) {
-    s.Texterror.foreColour = s.zwischen.foreColour;
-    s.Texterror.backColour = s.zwischen.backColour;
     s.Texterror.visible = true;
     s.errortimer.start(500);
 }

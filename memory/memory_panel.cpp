@@ -80,8 +80,6 @@ void MemoryPanel::confirmStore(std::size_t index) {
     message += static_cast<char16_t>(u'1' + index);
     message += s.inLanguage({u" übertragen", u""});
     s.Texterror.setText(message);
-    s.Texterror.foreColour = s.zwischen.foreColour;
-    s.Texterror.backColour = s.zwischen.backColour;
     s.Texterror.visible = true;
     s.messtimer.start(messageInterval);
 }
@@ -189,15 +187,10 @@ void MemoryPanel::cellEdit(TextField& cell, int& code) {
 
 void MemoryPanel::cellKeyPress(TextField& cell, char16_t& key) {
     if (key == 27) return;
-    if (key == u' ') {
-        key = 0;
-        return;
-    }
     if (key == 13 && cell.locked) return;
     if (s.decimalPointStyle == 1 && key == u',') key = u'.';
     if (s.decimalPointStyle == 0 && key == u'.') key = u',';
     if (key == u'.' && s.decimalPointStyle == 1 && cell.contains(u".")) key = 0;
-    if (key == 13) key = 0;
     const bool passes = (key >= u'0' && key <= u'9') || key == u',' || key == u'.' || key == 8 || key == u'v';
     if (!passes) key = 0;
     if (key == u',' && cell.contains(u",")) key = 0;

@@ -1,6 +1,7 @@
 #include "platform/qt/form_view.h"
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -97,11 +98,16 @@ void FormView::prepare() {
     refreshFocus();
 }
 
-// Drawn once, it has its fonts and glyphs.
+// Painted once, it has its fonts and glyphs, and the pixels in memory that the screen will show.
 void FormView::getReady() {
-    if (std::exchange(ready_, true) || windowHandle() != nullptr) return;
+    if (std::exchange(ready_, true) || wasShown_) return;
     prepare();
-    grab();
+    create();
+    QBackingStore& pixels = *backingStore();
+    pixels.resize(size());
+    pixels.beginPaint(rect());
+    render(pixels.paintDevice());
+    pixels.endPaint();
 }
 
 void FormView::refresh() {
@@ -325,13 +331,14 @@ QPoint FormView::startPosition() const {
 void FormView::refreshShown() {
     const bool shown = window_.visible || (stays_ && isVisible());
     if (isVisible() == shown && minimised_ == window_.minimised) return;
-    const bool comesBack = windowHandle() != nullptr;
+    const bool comesBack = wasShown_;
     if (comesBack && !isVisible()) windowHandle()->setPosition(windowHandle()->position());
     if (std::exchange(minimised_, window_.minimised) && onWayland()) hide();  // there is no other way back
     setWindowState(window_.minimised ? windowState() | Qt::WindowMinimized
                                      : windowState() & ~Qt::WindowMinimized);
     if (!comesBack && shown) move(startPosition());
     setVisible(shown);
+    wasShown_ = wasShown_ || shown;
     if (!comesBack || !shown || window_.minimised) return;
     bringToFront(*this);
 }

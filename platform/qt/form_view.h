@@ -110,6 +110,7 @@ class FormView : public QWidget {
     bool minimised_ = false;
     bool stays_ = false;
     bool ready_ = false;
+    bool wasShown_ = false;
 };
 
 }  // namespace zifferon

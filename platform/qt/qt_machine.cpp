@@ -10,7 +10,9 @@
 #include <QSvgRenderer>
 #include <QTimer>
 #include <QtMath>
+#include <algorithm>
 #include <cstdlib>
+#include <thread>
 
 #include "platform/qt/application.h"
 #include "platform/qt/control_view.h"
@@ -107,7 +109,7 @@ void QtSound::beep() { QApplication::beep(); }
 void QtProcess::end() { std::_Exit(EXIT_SUCCESS); }
 
 // Pauses in a row keep step: what one is late is not added to the next. While the user waits, windows that
-// come later get ready.
+// come later get ready. The last millisecond is slept through: the event loop may wake up so much late.
 void QtProcess::pause(int milliseconds) {
     using namespace std::chrono;
     constexpr auto inARow = 5ms;
@@ -117,10 +119,11 @@ void QtProcess::pause(int milliseconds) {
     QTimer alarm;
     alarm.setTimerType(Qt::PreciseTimer);
     alarm.setSingleShot(true);
-    alarm.start(floor<std::chrono::milliseconds>(pauseEnd_ - now));
+    alarm.start(std::max(0ms, floor<std::chrono::milliseconds>(pauseEnd_ - now) - 1ms));
     FormView::refreshAll();
     for (FormView* form : FormView::all()) form->getReady();
     while (alarm.isActive()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    std::this_thread::sleep_until(pauseEnd_);
 }
 
 }  // namespace zifferon

@@ -30,7 +30,7 @@ inline std::string lineOf(const Control& control) {
         line << (control.alignment == Alignment::right ? " right" : " centre");
     }
     const auto* const field = dynamic_cast<const TextField*>(&control);
-    if (field != nullptr && field->locked) line << " locked";
+    if (field != nullptr) line << (field->locked ? " locked" : "") << (field->multiLine ? " lines" : "");
     if (control.frame != nullptr) line << " in " << toUtf8(control.frame->name);
     if (!control.picture.empty()) line << " picture " << toUtf8(control.picture);
     return line.str();

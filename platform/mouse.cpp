@@ -39,6 +39,17 @@ bool isReachable(const Window& window, const Control& control) {
     });
 }
 
+std::size_t coverOf(const Window& window) {
+    const Place client = clientArea(window);
+    const Point last{client.left + client.width - 1, client.top + client.height - 1};
+    const auto& controls = window.controls();
+    const auto cover = std::find_if(controls.rbegin(), controls.rend(), [&](const Control* control) {
+        return control->shown() && contains(control->place, {client.left, client.top}) &&
+               contains(control->place, last);
+    });
+    return cover != controls.rend() ? std::size_t(controls.rend() - cover) - 1 : 0;
+}
+
 void mousePress(Window& window, KeyRoad& keys, Control& control) {
     const unsigned long wishes = window.focusWishes();
     keys.run(control.onMouseDown);

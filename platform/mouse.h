@@ -10,6 +10,10 @@ namespace zifferon {
 // window, and no later control lies over it. A disabled label leaves the mouse to what it lies on.
 bool isReachable(const Window& window, const Control& control);
 
+// The index of the last shown control that covers the whole window: of what comes before it nothing is seen.
+// 0 where there is none.
+std::size_t coverOf(const Window& window);
+
 // Pressed: the control's own handler, and then the focus goes to one that takes it, unless the handler has
 // given it away.
 void mousePress(Window& window, KeyRoad& keys, Control& control);

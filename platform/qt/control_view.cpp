@@ -50,7 +50,7 @@ ControlView::ControlView(Control& control, QWidget& widget, QWidget& surface, Fo
     surface.installEventFilter(this);
 }
 
-void ControlView::refresh() {
+void ControlView::refresh(bool seen) {
     refreshPlace();
     if (differs(font_, control_.font)) widget_.setFont(fontOf(control_.font));
     const bool newForeColour = differs(foreColour_, control_.foreColour);
@@ -66,7 +66,7 @@ void ControlView::refresh() {
         widget_.setAttribute(Qt::WA_TransparentForMouseEvents,
                              control_.kind == ControlKind::label && !control_.enabled);
     }
-    if (differs(visible_, control_.shown())) widget_.setVisible(*visible_);
+    if (differs(visible_, seen)) widget_.setVisible(seen);
 }
 
 // While it is dragged the mouse alone moves it.

@@ -26,8 +26,9 @@ class ControlView : public QObject {
     ControlView(Control& control, QWidget& widget, FormView& form)
         : ControlView(control, widget, widget, form) {}
 
-    // Shows what has changed in the control since the last call, and touches nothing else.
-    void refresh();
+    // Shows what has changed in the control since the last call, and touches nothing else. `seen`: the
+    // control is shown, and nothing covers the whole window above it.
+    void refresh(bool seen);
 
     Control& control() const { return control_; }
     QWidget& widget() const { return widget_; }

@@ -13,6 +13,7 @@
 #include <limits>
 #include <utility>
 
+#include "platform/mouse.h"
 #include "platform/qt/control_access.h"
 #include "platform/qt/to_front.h"
 
@@ -294,10 +295,13 @@ void FormView::refreshOnTop() {
     if (windowHandle() != nullptr) windowHandle()->setFlag(Qt::WindowStaysOnTopHint, alwaysOnTop_);
 }
 
+// What is covered is not there for a screen reader either.
 void FormView::refreshControls() {
+    const std::size_t cover = coverOf(window_);
     for (std::size_t i = 0; i < views_.size(); ++i) {
-        if (!views_[i] && window_.controls()[i]->shown()) makeView(i);
-        if (views_[i]) views_[i]->refresh();
+        const bool seen = i >= cover && window_.controls()[i]->shown();
+        if (!views_[i] && seen) makeView(i);
+        if (views_[i]) views_[i]->refresh(seen);
     }
 }
 

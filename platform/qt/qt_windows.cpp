@@ -59,10 +59,17 @@ void QtWindows::hideAll() {
     for (QWidget* widget : QApplication::topLevelWidgets()) widget->hide();
 }
 
+// Where a box over it closes in the same moment, a window manager may hand the keyboard to nobody: the owner
+// asks for it.
 void QtWindows::showModal(Window& window) {
-    Shown shown(window, sound_, FormView::topmost());
-    shown.view.setWindowModality(Qt::ApplicationModal);
-    runUntilHidden(shown.view);
+    QWidget* const owner = FormView::topmost();
+    {
+        Shown shown(window, sound_, owner);
+        shown.view.setWindowModality(Qt::ApplicationModal);
+        runUntilHidden(shown.view);
+    }
+    const bool inUse = QGuiApplication::applicationState() == Qt::ApplicationActive;
+    if (inUse && owner != nullptr && owner->isVisible()) bringToFront(*owner);
 }
 
 void QtWindows::showBefore(Window& window) {

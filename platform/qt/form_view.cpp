@@ -99,16 +99,16 @@ void FormView::prepare() {
     refreshFocus();
 }
 
-// Painted once, it has its fonts and glyphs, and the pixels in memory that the screen will show.
+// Painted once, it has its fonts and glyphs, and the memory of what the screen will show.
 void FormView::getReady() {
-    if (std::exchange(ready_, true) || wasShown_) return;
+    if (windowHandle() != nullptr) return;
     prepare();
     create();
-    QBackingStore& pixels = *backingStore();
-    pixels.resize(size());
-    pixels.beginPaint(rect());
-    render(pixels.paintDevice());
-    pixels.endPaint();
+    QBackingStore& store = *backingStore();
+    store.resize(size());
+    store.beginPaint(rect());
+    render(store.paintDevice());
+    store.endPaint();
 }
 
 void FormView::refresh() {

@@ -109,7 +109,6 @@ class FormView : public QWidget {
     bool alwaysOnTop_ = false;
     bool minimised_ = false;
     bool stays_ = false;
-    bool ready_ = false;
     bool wasShown_ = false;
 };
 

@@ -109,7 +109,7 @@ void QtSound::beep() { QApplication::beep(); }
 void QtProcess::end() { std::_Exit(EXIT_SUCCESS); }
 
 // Pauses in a row keep step: what one is late is not added to the next. While the user waits, windows that
-// come later get ready. The last millisecond is slept through: the event loop may wake up so much late.
+// come later get ready. The event loop may wake up a millisecond late: the very last ones are slept through.
 void QtProcess::pause(int milliseconds) {
     using namespace std::chrono;
     constexpr auto inARow = 5ms;

@@ -1,6 +1,7 @@
 #include "platform/qt/qt_windows.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <algorithm>
 
 #include "platform/qt/form_view.h"
@@ -59,17 +60,17 @@ void QtWindows::hideAll() {
     for (QWidget* widget : QApplication::topLevelWidgets()) widget->hide();
 }
 
-// Where a box over it closes in the same moment, a window manager may hand the keyboard to nobody: the owner
-// asks for it.
+// Where a box over the window closes in the same moment, a window manager may hand the keyboard to nobody:
+// the owner, where it is still there, asks for it.
 void QtWindows::showModal(Window& window) {
-    QWidget* const owner = FormView::topmost();
+    const QPointer<QWidget> owner = FormView::topmost();
     {
         Shown shown(window, sound_, owner);
         shown.view.setWindowModality(Qt::ApplicationModal);
         runUntilHidden(shown.view);
     }
     const bool inUse = QGuiApplication::applicationState() == Qt::ApplicationActive;
-    if (inUse && owner != nullptr && owner->isVisible()) bringToFront(*owner);
+    if (inUse && owner && owner->isVisible()) bringToFront(*owner);
 }
 
 void QtWindows::showBefore(Window& window) {

@@ -51,6 +51,20 @@ TEST_F(PageTest, ThePrintCopyIsEdited) {
     EXPECT_EQ(tape(), "");
 }
 
+// Its box and the window itself close in one moment, which confuses a window manager one time in twenty.
+TEST_F(PageTest, TheKeyboardComesBackFromTheLetterhead) {
+    open();
+    for (int turn = 0; turn < 100; ++turn) {
+        whenAWindowOpens([this](QWidget& letterhead) {
+            whenAWindowOpens(pressing(enter));
+            const QWidget& button = *letterhead.findChild<QWidget*>(QStringLiteral("kopfok"));
+            clickAt(button.mapToGlobal(button.rect().center()));
+        });
+        view.run(page().cmdkopf.onClick);
+        ASSERT_SOON(allHaveActed() && view.isActiveWindow()) << turn;
+    }
+}
+
 TEST_F(PageTest, ACalculationIsStoredShownAndLoaded) {
     hands.stroke({keypad5, keypadAdd});
     open();
